@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# ./run.sh [screen] [program arguments...]
+# Builds if needed, then starts the editor in build/device/ on a device screen (default
+# qvga-portrait). With a display, the editor opens in a Wine virtual desktop of the screen's size;
+# without one, it runs on a private virtual screen and a screenshot goes to build/screens/run.png.
+set -uo pipefail
+cd "$(dirname "$0")"
+. tools/common.sh
+
+screen=qvga-portrait
+if [ $# -gt 0 ] && screen_spec "$1" >/dev/null; then
+    screen=$1
+    shift
+fi
+read -r size dpi <<<"$(screen_spec "$screen")"
+
+ensure_packages || exit 1
+build_windows >/dev/null || { log "build failed"; exit 1; }
+exe=$(winpath "$BUILD/device/CV2Settings.exe")
+cd "$BUILD/device"
+
+if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then
+    ensure_prefix
+    set_dpi "$dpi"
+    log "starting the editor on $screen ($size, $dpi dpi) in a Wine virtual desktop"
+    exec "$WINE" explorer "/desktop=CV2Settings,$size" "$exe" "$@"
+fi
+
+use_screen "$screen" || exit 1
+trap 'stop_wine; stop_xvfb' EXIT
+log "starting the editor on $screen ($size, $dpi dpi) on private display $DISPLAY"
+"$WINE" "$exe" "$@" &
+pid=$!
+for _ in $(seq 1 100); do
+    kill -0 "$pid" 2>/dev/null || break
+    xwininfo -root -tree 2>/dev/null | grep -q '"Corvane 2 Settings"' && break
+    sleep 0.2
+done
+if ! kill -0 "$pid" 2>/dev/null; then
+    wait "$pid"
+    code=$?
+    log "the program ended with exit code $code"
+    exit "$code"
+fi
+sleep 1
+mkdir -p "$BUILD/screens"
+import -window root "$BUILD/screens/run.png"
+log "screenshot written to $BUILD/screens/run.png"
+log "the editor keeps running on $DISPLAY; press Ctrl-C to stop it"
+wait "$pid"

@@ -1,0 +1,22 @@
+// Entry point: the silent theme switch, or the interactive settings editor.
+#include <windows.h>
+
+#include "app/bar_notify.h"
+#include "app/exe_folder.h"
+#include "app/theme_switch.h"
+#include "store/language_strings.h"
+
+namespace cv2 {
+int RunEditor(HINSTANCE instance);
+}
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR commandLine, int) {
+    // The localisation module is loaded before anything else, as the editor's first act.
+    cv2::Strings();
+    const std::wstring args = commandLine ? commandLine : L"";
+    if (cv2::IsThemeSwitch(args)) {
+        cv2::RunThemeSwitch(cv2::ExeFolder(), args, cv2::NotifyBarFromTaskbar);
+        return 0;
+    }
+    return cv2::RunEditor(instance);
+}

@@ -1,0 +1,141 @@
+#include "device_fixture.h"
+
+#include <cstdlib>
+#include <vector>
+
+#include "platform/file_access.h"
+
+namespace cv2test {
+namespace {
+
+std::wstring SourceDeviceFolder() {
+    const char* dir = std::getenv("CV2_DEVICE_DIR");
+    std::string s = dir ? dir : ".";
+    return std::wstring(s.begin(), s.end()) + L"\\";
+}
+
+std::wstring UniqueScratchFolder() {
+    wchar_t temp[MAX_PATH];
+    GetTempPathW(MAX_PATH, temp);
+    static int counter = 0;
+    for (;;) {
+        std::wstring dir = std::wstring(temp) + L"cv2e2e-" + std::to_wstring(GetCurrentProcessId()) +
+                           L"-" + std::to_wstring(counter++) + L"\\";
+        if (CreateDirectoryW(dir.c_str(), nullptr))
+            return dir;
+    }
+}
+
+void RemoveTree(const std::wstring& dir) {
+    WIN32_FIND_DATAW data;
+    HANDLE find = FindFirstFileW((dir + L"*").c_str(), &data);
+    if (find != INVALID_HANDLE_VALUE) {
+        do {
+            std::wstring name = data.cFileName;
+            if (name == L"." || name == L"..")
+                continue;
+            if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
+                RemoveTree(dir + name + L"\\");
+            else
+                DeleteFileW((dir + name).c_str());
+        } while (FindNextFileW(find, &data));
+        FindClose(find);
+    }
+    RemoveDirectoryW(dir.c_str());
+}
+
+bool Launch(const std::wstring& exe, const std::wstring& arguments, PROCESS_INFORMATION& pi) {
+    std::wstring line = L"\"" + exe + L"\" " + arguments;
+    std::vector<wchar_t> buffer(line.begin(), line.end());
+    buffer.push_back(L'\0');
+    STARTUPINFOW si{};
+    si.cb = sizeof si;
+    return CreateProcessW(exe.c_str(), buffer.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                          &si, &pi) != 0;
+}
+
+} // namespace
+
+void DeviceFixture::SetUp() {
+    m_dir = UniqueScratchFolder();
+    m_logPath = m_dir.substr(0, m_dir.size() - 1) + L"-bar.log";
+    DeleteFileW(m_logPath.c_str());
+    ASSERT_TRUE(CopyFileW((SourceDeviceFolder() + L"CV2Settings.exe").c_str(),
+                          File(L"CV2Settings.exe").c_str(), FALSE))
+        << "CV2_DEVICE_DIR must hold the built program";
+}
+
+void DeviceFixture::TearDown() {
+    StopBar();
+    RemoveTree(m_dir);
+    DeleteFileW(m_logPath.c_str());
+}
+
+void DeviceFixture::WriteText(const std::wstring& name, const std::string& bytes) const {
+    ASSERT_TRUE(cv2::WriteFileReplacing(File(name), cv2::Bytes(bytes.begin(), bytes.end())));
+}
+
+std::string DeviceFixture::ReadText(const std::wstring& name) const {
+    cv2::Bytes bytes;
+    cv2::ReadWholeFile(File(name), bytes);
+    return std::string(bytes.begin(), bytes.end());
+}
+
+bool DeviceFixture::Exists(const std::wstring& name) const { return cv2::FileExists(File(name)); }
+
+void DeviceFixture::StartBar() {
+    ASSERT_FALSE(FindWindowW(L"HHTaskbar", nullptr)) << "a test bar is already running";
+    ASSERT_TRUE(Launch(SourceDeviceFolder() + L"testbar.exe", L"\"" + m_logPath + L"\"", m_bar));
+    for (int i = 0; i < 200 && !FindWindowW(L"HHTaskbar", nullptr); ++i)
+        Sleep(50);
+    ASSERT_TRUE(FindWindowW(L"HHTaskbar", nullptr)) << "the test bar did not start";
+}
+
+void DeviceFixture::StopBar() {
+    if (!m_bar.hProcess)
+        return;
+    if (HWND taskbar = FindWindowW(L"HHTaskbar", nullptr))
+        PostMessageW(taskbar, WM_CLOSE, 0, 0);
+    if (WaitForSingleObject(m_bar.hProcess, 10000) != WAIT_OBJECT_0)
+        TerminateProcess(m_bar.hProcess, 1);
+    CloseHandle(m_bar.hProcess);
+    CloseHandle(m_bar.hThread);
+    m_bar = PROCESS_INFORMATION{};
+}
+
+std::string DeviceFixture::BarLog() const {
+    cv2::Bytes bytes;
+    cv2::ReadWholeFile(m_logPath, bytes);
+    return std::string(bytes.begin(), bytes.end());
+}
+
+DWORD DeviceFixture::RunEditor(const std::wstring& arguments, DWORD timeoutMs) {
+    PROCESS_INFORMATION pi{};
+    if (!Launch(File(L"CV2Settings.exe"), arguments, pi)) {
+        ADD_FAILURE() << "could not start the program";
+        return ~0u;
+    }
+    DWORD code = ~0u;
+    if (WaitForSingleObject(pi.hProcess, timeoutMs) == WAIT_OBJECT_0) {
+        GetExitCodeProcess(pi.hProcess, &code);
+    } else {
+        ADD_FAILURE() << "the program did not exit in time";
+        TerminateProcess(pi.hProcess, 1);
+    }
+    CloseHandle(pi.hProcess);
+    CloseHandle(pi.hThread);
+    return code;
+}
+
+std::string DeviceFixture::Lines(const std::string& text) {
+    std::string out;
+    for (char c : text) {
+        if (c == '\n')
+            out += "\r\n";
+        else
+            out += c;
+    }
+    return out;
+}
+
+} // namespace cv2test

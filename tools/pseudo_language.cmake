@@ -1,0 +1,12 @@
+# Writes the string table of the pseudo-locale module: each default text as "[text]".
+file(STRINGS ${TABLE} lines REGEX "^CV_STRING\\(")
+set(rc "STRINGTABLE\nBEGIN\n")
+foreach(line IN LISTS lines)
+  if(line MATCHES "^CV_STRING\\([A-Za-z0-9_]+, *([0-9]+), *L\"(.*)\"\\)$")
+    string(APPEND rc "    ${CMAKE_MATCH_1}, L\"[${CMAKE_MATCH_2}]\"\n")
+  else()
+    message(FATAL_ERROR "Unreadable string table line: ${line}")
+  endif()
+endforeach()
+string(APPEND rc "END\n")
+file(WRITE ${OUT} "${rc}")

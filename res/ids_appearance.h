@@ -1,0 +1,2 @@
+// Resource ids of the appearance area, at their documented numbers.
+#pragma once

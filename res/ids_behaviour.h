@@ -1,0 +1,2 @@
+// Resource ids of the behaviour area, at their documented numbers.
+#pragma once

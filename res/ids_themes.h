@@ -1,0 +1,2 @@
+// Resource ids of the themes area, at their documented numbers.
+#pragma once

@@ -1,0 +1,1 @@
+// Texts of the theme editor's appearance pages.

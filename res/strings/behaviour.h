@@ -1,0 +1,1 @@
+// Texts of the behaviour pages of the main window.

@@ -1,0 +1,1 @@
+// Texts of theme catalogue, theme editor, import and export, overrides.

@@ -1,0 +1,1 @@
+// Texts of shared editors: pickers, grid, file browser, background dialogs.

@@ -1,0 +1,58 @@
+// The device shell's calls that the program uses, under the device's names and with the device's
+// meaning. On desktop Windows this layer implements them itself:
+//   - the menu bar is a toolbar in its own window along the bottom of the work area, below the
+//     window it belongs to, like the device's soft-key bar;
+//   - a full-screen dialog fills the work area, and its Done button is the caption's close box,
+//     which reports IDOK;
+//   - the Done button of a top-level window is a request that the desktop has no place to show.
+#pragma once
+
+#include <windows.h>
+
+namespace cv2 {
+
+// Full-screen dialog initialisation.
+constexpr DWORD SHIDIM_FLAGS = 0x0001;
+constexpr DWORD SHIDIF_DONEBUTTON = 0x0001;
+constexpr DWORD SHIDIF_SIZEDLG = 0x0002;
+constexpr DWORD SHIDIF_SIZEDLGFULLSCREEN = 0x0004;
+constexpr DWORD SHIDIF_SIPDOWN = 0x0008;
+
+struct SHINITDLGINFO {
+    DWORD dwMask;
+    HWND hDlg;
+    DWORD dwFlags;
+};
+BOOL SHInitDialog(SHINITDLGINFO* info);
+
+// Menu bar creation.
+constexpr DWORD SHCMBF_EMPTYBAR = 0x0001;
+constexpr DWORD SHCMBF_HIDDEN = 0x0002;
+constexpr DWORD SHCMBF_HMENU = 0x0010;
+
+struct SHMENUBARINFO {
+    DWORD cbSize;
+    HWND hwndParent;
+    DWORD dwFlags;
+    UINT nToolBarId;
+    HINSTANCE hInstRes;
+    int nBmpId;
+    int cBmpImages;
+    HWND hwndMB; // out: the bar; it takes toolbar messages (TB_SETIMAGELIST, TB_ADDBUTTONS, ...)
+    COLORREF clrBk;
+};
+// Creates the bar from menu resource nToolBarId (each top-level item becomes a button that opens
+// its popup), or an empty bar. Commands go to hwndParent as WM_COMMAND.
+BOOL SHCreateMenuBar(SHMENUBARINFO* info);
+// The bar window of `owner` made by SHCreateMenuBar, or null.
+HWND SHFindMenuBar(HWND owner);
+
+// Done button of a top-level window.
+constexpr DWORD SHDB_SHOW = 0x0001;
+constexpr DWORD SHDB_HIDE = 0x0002;
+BOOL SHDoneButton(HWND hwnd, DWORD state);
+
+// Height of the menu bar in pixels on this screen.
+int MenuBarHeight();
+
+} // namespace cv2

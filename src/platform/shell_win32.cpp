@@ -1,0 +1,178 @@
+#include "platform/shell.h"
+
+#include <commctrl.h>
+
+#include "store/scale.h"
+
+namespace cv2 {
+namespace {
+
+const wchar_t kBarClass[] = L"CV2MenuBar";
+const wchar_t kOwnerProp[] = L"CV2MenuBarOwner";
+const UINT kFirstMenuButton = 0xE000; // ids of the buttons that open the menu's popups
+const UINT_PTR kDoneSubclass = 1;
+
+RECT WorkArea() {
+    RECT wa;
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &wa, 0);
+    return wa;
+}
+
+// The full-screen dialog's close box is its Done button: it reports IDOK.
+LRESULT CALLBACK DoneButtonProc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                DWORD_PTR) {
+    if (msg == WM_SYSCOMMAND && (wParam & 0xFFF0) == SC_CLOSE) {
+        PostMessageW(hwnd, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+        return 0;
+    }
+    if (msg == WM_NCDESTROY)
+        RemoveWindowSubclass(hwnd, DoneButtonProc, kDoneSubclass);
+    return DefSubclassProc(hwnd, msg, wParam, lParam);
+}
+
+// Opens the popup of menu button `index` above the bar and sends the chosen command.
+void OpenMenuPopup(HWND container, HWND toolbar, UINT index) {
+    HMENU menu = reinterpret_cast<HMENU>(GetPropW(container, L"CV2Menu"));
+    HMENU popup = menu ? GetSubMenu(menu, static_cast<int>(index)) : nullptr;
+    if (!popup)
+        return;
+    RECT button;
+    SendMessageW(toolbar, TB_GETRECT, kFirstMenuButton + index, reinterpret_cast<LPARAM>(&button));
+    MapWindowPoints(toolbar, nullptr, reinterpret_cast<POINT*>(&button), 2);
+    HWND owner = GetWindow(container, GW_OWNER);
+    UINT cmd = TrackPopupMenu(popup, TPM_LEFTALIGN | TPM_BOTTOMALIGN | TPM_RETURNCMD, button.left,
+                              button.top, 0, owner, nullptr);
+    if (cmd)
+        SendMessageW(owner, WM_COMMAND, MAKEWPARAM(cmd, 0), 0);
+}
+
+LRESULT CALLBACK BarProc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam) {
+    switch (msg) {
+    case WM_COMMAND: {
+        const UINT id = LOWORD(wParam);
+        HWND toolbar = GetWindow(hwnd, GW_CHILD);
+        if (id >= kFirstMenuButton && id < kFirstMenuButton + 0x100)
+            OpenMenuPopup(hwnd, toolbar, id - kFirstMenuButton);
+        else
+            SendMessageW(GetWindow(hwnd, GW_OWNER), WM_COMMAND, MAKEWPARAM(id, 0), 0);
+        return 0;
+    }
+    case WM_SIZE:
+        MoveWindow(GetWindow(hwnd, GW_CHILD), 0, 0, LOWORD(lParam), HIWORD(lParam), TRUE);
+        return 0;
+    case WM_DESTROY:
+        if (HMENU menu = reinterpret_cast<HMENU>(RemovePropW(hwnd, L"CV2Menu")))
+            DestroyMenu(menu);
+        return 0;
+    }
+    return DefWindowProcW(hwnd, msg, wParam, lParam);
+}
+
+void RegisterBarClass(HINSTANCE instance) {
+    WNDCLASSW wc = {};
+    if (GetClassInfoW(instance, kBarClass, &wc))
+        return;
+    wc.lpfnWndProc = BarProc;
+    wc.hInstance = instance;
+    wc.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    wc.lpszClassName = kBarClass;
+    wc.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    RegisterClassW(&wc);
+}
+
+// One text button per top-level item of the menu.
+void AddMenuButtons(HWND toolbar, HMENU menu) {
+    const int count = GetMenuItemCount(menu);
+    for (int i = 0; i < count; ++i) {
+        wchar_t text[64] = {};
+        GetMenuStringW(menu, static_cast<UINT>(i), text, 64, MF_BYPOSITION);
+        TBBUTTON button = {};
+        button.iBitmap = I_IMAGENONE;
+        button.idCommand = static_cast<int>(kFirstMenuButton + i);
+        button.fsState = TBSTATE_ENABLED;
+        button.fsStyle = BTNS_BUTTON | BTNS_AUTOSIZE | BTNS_SHOWTEXT;
+        button.iString = reinterpret_cast<INT_PTR>(text);
+        SendMessageW(toolbar, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&button));
+    }
+}
+
+// Keeps the owner clear of the bar: a window reaching into the bar's strip is shortened.
+void MakeRoomAbove(HWND owner, const RECT& bar) {
+    RECT r;
+    GetWindowRect(owner, &r);
+    if (r.bottom > bar.top && r.top < bar.top)
+        SetWindowPos(owner, nullptr, 0, 0, r.right - r.left, bar.top - r.top,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+} // namespace
+
+int MenuBarHeight() { return Scale(26); }
+
+BOOL SHInitDialog(SHINITDLGINFO* info) {
+    if (!info || !IsWindow(info->hDlg) || !(info->dwMask & SHIDIM_FLAGS))
+        return FALSE;
+    if (info->dwFlags & (SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIZEDLG)) {
+        const RECT wa = WorkArea();
+        SetWindowPos(info->hDlg, nullptr, wa.left, wa.top, wa.right - wa.left,
+                     wa.bottom - wa.top, SWP_NOZORDER);
+    }
+    if (info->dwFlags & SHIDIF_DONEBUTTON)
+        SetWindowSubclass(info->hDlg, DoneButtonProc, kDoneSubclass, 0);
+    return TRUE;
+}
+
+BOOL SHCreateMenuBar(SHMENUBARINFO* info) {
+    if (!info || !IsWindow(info->hwndParent))
+        return FALSE;
+    HINSTANCE instance = info->hInstRes ? info->hInstRes : GetModuleHandleW(nullptr);
+    HMENU menu = nullptr;
+    if (!(info->dwFlags & SHCMBF_EMPTYBAR)) {
+        menu = LoadMenuW(instance, MAKEINTRESOURCEW(info->nToolBarId));
+        if (!menu)
+            return FALSE;
+    }
+    INITCOMMONCONTROLSEX icc = {sizeof icc, ICC_BAR_CLASSES};
+    InitCommonControlsEx(&icc);
+    RegisterBarClass(instance);
+
+    const RECT wa = WorkArea();
+    const RECT bar = {wa.left, wa.bottom - MenuBarHeight(), wa.right, wa.bottom};
+    const DWORD visible = (info->dwFlags & SHCMBF_HIDDEN) ? 0 : WS_VISIBLE;
+    HWND container = CreateWindowExW(WS_EX_TOOLWINDOW, kBarClass, L"", WS_POPUP | visible, bar.left,
+                                     bar.top, bar.right - bar.left, bar.bottom - bar.top,
+                                     info->hwndParent, nullptr, instance, nullptr);
+    if (!container) {
+        if (menu)
+            DestroyMenu(menu);
+        return FALSE;
+    }
+    SetPropW(container, L"CV2Menu", menu);
+    SetPropW(info->hwndParent, kOwnerProp, container);
+    HWND toolbar = CreateWindowExW(
+        0, TOOLBARCLASSNAMEW, L"",
+        WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_LIST | CCS_NORESIZE | CCS_NODIVIDER |
+            CCS_NOPARENTALIGN,
+        0, 0, bar.right - bar.left, bar.bottom - bar.top, container, nullptr, instance, nullptr);
+    SendMessageW(toolbar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
+    SendMessageW(toolbar, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);
+    if (menu)
+        AddMenuButtons(toolbar, menu);
+    MakeRoomAbove(info->hwndParent, bar);
+    info->hwndMB = toolbar;
+    return TRUE;
+}
+
+HWND SHFindMenuBar(HWND owner) {
+    if (!owner)
+        return nullptr;
+    HWND container = static_cast<HWND>(GetPropW(owner, kOwnerProp));
+    return IsWindow(container) ? GetWindow(container, GW_CHILD) : nullptr;
+}
+
+BOOL SHDoneButton(HWND hwnd, DWORD state) {
+    // The desktop has no navigation bar to put the button in; the request is accepted.
+    return IsWindow(hwnd) && (state == SHDB_SHOW || state == SHDB_HIDE);
+}
+
+} // namespace cv2

@@ -1,0 +1,3 @@
+list(APPEND CV2_WIN_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/settings_page.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/shared_fonts.cpp)

@@ -22,6 +22,33 @@ use_screen qvga-portrait || exit 1
 log "Windows tests under Wine"
 (cd "$BUILD/win" && ctest --output-on-failure) || failed=1
 
+# Layer 4: screenshots of every page and dialog on the six device screens, in build/screens/.
+run_screens() {
+    local screen dir shot
+    for screen in $SCREENS; do
+        use_screen "$screen" || return 1
+        dir="$BUILD/screens/$screen"
+        rm -rf "$dir" && mkdir -p "$dir"
+        export CV2_SCREEN="$screen" CV2_SCREENS_DIR="$(winpath "$dir")"
+        export CV2_DEVICE_DIR="$(winpath "$BUILD/device")"
+        for t in win32_tests e2e_tests; do
+            "$WINE" "$BUILD/win/tests/$t.exe" --gtest_filter='*Screens.*' --gtest_brief=1 || return 1
+        done
+        for shot in "$dir"/*.bmp; do
+            [ -e "$shot" ] || continue
+            "$CONVERT" "$shot" "${shot%.bmp}.png" && rm -f "$shot"
+            # A capture of one flat colour means nothing was drawn.
+            if [ "$("$CONVERT" "${shot%.bmp}.png" -format '%k' info:)" -le 1 ]; then
+                log "blank screenshot: ${shot%.bmp}.png"
+                return 1
+            fi
+        done
+        log "$screen: $(ls "$dir" | wc -l) screenshots in $dir"
+    done
+}
+log "screens on the six device screens"
+run_screens || failed=1
+
 if [ "$failed" -ne 0 ]; then
     log "some tests failed"
     exit 1

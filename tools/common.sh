@@ -5,6 +5,8 @@ ROOT=$(pwd)
 BUILD="$ROOT/build"
 export CV2_WINEPREFIX="$BUILD/wineprefix"
 WINE="$ROOT/tools/wine-run.sh"
+# ImageMagick itself (a stand-in of the same name may come first on PATH).
+CONVERT=/usr/bin/convert
 
 # Debian packages the build and the tests need.
 PACKAGES="cmake make g++ googletest g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 \

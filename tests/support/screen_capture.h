@@ -1,0 +1,24 @@
+// Screenshots for the screens test layer, taken from inside a Windows test program.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace cv2test {
+
+// The device screen the tests run on ("qvga-portrait", ...), from CV2_SCREEN; empty if unset.
+std::string ScreenName();
+
+// Saves the whole screen as a 24-bit BMP named `name`.bmp in the folder given by
+// CV2_SCREENS_DIR (the screens layer of ./test.sh sets it per device screen). Returns the path,
+// or an empty string when no folder is set or the capture failed.
+std::wstring SaveScreenshot(const std::wstring& name);
+
+// True when the screen shows more than one colour (a blank capture is a failed capture).
+bool ScreenHasContent();
+
+// Lets pending paint messages of this thread run, for up to `ms` milliseconds.
+void PumpMessages(DWORD ms);
+
+} // namespace cv2test

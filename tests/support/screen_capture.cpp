@@ -1,6 +1,7 @@
 #include "screen_capture.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <vector>
 
 #include "platform/file_access.h"
@@ -71,10 +72,9 @@ std::wstring SaveScreenshot(const std::wstring& name) {
     fh.bfType = 0x4D42;
     fh.bfOffBits = sizeof fh + sizeof ih;
     fh.bfSize = static_cast<DWORD>(fh.bfOffBits + pixels.size());
-    cv2::Bytes file(reinterpret_cast<unsigned char*>(&fh),
-                    reinterpret_cast<unsigned char*>(&fh) + sizeof fh);
-    file.insert(file.end(), reinterpret_cast<unsigned char*>(&ih),
-                reinterpret_cast<unsigned char*>(&ih) + sizeof ih);
+    cv2::Bytes file(fh.bfOffBits);
+    std::memcpy(file.data(), &fh, sizeof fh);
+    std::memcpy(file.data() + sizeof fh, &ih, sizeof ih);
     file.insert(file.end(), pixels.begin(), pixels.end());
     const std::wstring path = folder + L"\\" + name + L".bmp";
     return cv2::WriteFileReplacing(path, file) ? path : L"";

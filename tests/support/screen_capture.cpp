@@ -72,10 +72,10 @@ std::wstring SaveScreenshot(const std::wstring& name) {
     fh.bfType = 0x4D42;
     fh.bfOffBits = sizeof fh + sizeof ih;
     fh.bfSize = static_cast<DWORD>(fh.bfOffBits + pixels.size());
-    cv2::Bytes file(fh.bfOffBits);
+    cv2::Bytes file(fh.bfSize);
     std::memcpy(file.data(), &fh, sizeof fh);
     std::memcpy(file.data() + sizeof fh, &ih, sizeof ih);
-    file.insert(file.end(), pixels.begin(), pixels.end());
+    std::memcpy(file.data() + fh.bfOffBits, pixels.data(), pixels.size());
     const std::wstring path = folder + L"\\" + name + L".bmp";
     return cv2::WriteFileReplacing(path, file) ? path : L"";
 }

@@ -1,0 +1,3 @@
+list(APPEND CV2_CORE_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/rule_format.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/rule_list.cpp)

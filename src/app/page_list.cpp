@@ -2,6 +2,8 @@
 
 #include <new>
 
+#include "pages/behaviour/rule_pages.h"
+
 namespace cv2 {
 
 // Allocation failure gives a null page instead of an exception.
@@ -14,11 +16,14 @@ std::vector<SettingsPage*> CreateMainPages() {
     // "General Settings"
     // "Start Menu Settings"
     // "Task Management"
+    pages.push_back(Make<TaskManagementPage>());
     // "SIP Panel"
+    pages.push_back(Make<SipPanelPage>());
     // "Clock Settings"
     // "Button Assignments"
     // "Button Order"
     // "Skinned Applications"
+    pages.push_back(Make<SkinnedApplicationsPage>());
     // "Theme Overrides"
     // "Delays/Timers"
     // "Plugins"

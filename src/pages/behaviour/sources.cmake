@@ -1,3 +1,10 @@
 list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/rule_format.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/rule_list.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/rule_list.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/task_choices.cpp)
+list(APPEND CV2_WIN_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/custom_task_dialog.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/full_screen_dialog.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/rule_list_page.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/rule_pages.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/task_picker_dialog.cpp)

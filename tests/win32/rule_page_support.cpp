@@ -1,5 +1,7 @@
 #include "rule_page_support.h"
 
+#include <gtest/gtest.h>
+
 #include "ids_behaviour.h"
 #include "platform/shell.h"
 #include "store/scale.h"
@@ -100,16 +102,7 @@ void PageHost::SelectRow(int row) const {
 }
 
 std::vector<std::wstring> PageHost::ListTexts() const {
-    HWND list = Control(IDC_RULE_LIST);
-    std::vector<std::wstring> texts;
-    const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-        std::wstring text(static_cast<size_t>(SendMessageW(list, LB_GETTEXTLEN, i, 0)) + 1, L'\0');
-        const LRESULT got = SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(&text[0]));
-        text.resize(got > 0 ? static_cast<size_t>(got) : 0);
-        texts.push_back(text);
-    }
-    return texts;
+    return ListBoxTexts(Control(IDC_RULE_LIST));
 }
 
 std::vector<LPARAM> PageHost::ListData() const {
@@ -138,6 +131,8 @@ void CALLBACK DialogDriver::Tick(HWND, UINT, UINT_PTR, DWORD) {
 }
 
 void DialogDriver::OnTick() {
+    if (m_busy)
+        return;
     FrontDialog front;
     EnumThreadWindows(GetCurrentThreadId(), FindFrontDialog, reinterpret_cast<LPARAM>(&front));
     if (!front.found) {
@@ -146,10 +141,10 @@ void DialogDriver::OnTick() {
     }
     if (m_next < m_steps.size()) {
         m_idleSince = GetTickCount();
-        // The step may open a nested dialog (whose ticks run the next steps), so it is counted
-        // before it runs.
-        Step& step = m_steps[m_next++];
-        step(front.found);
+        // A step may pump messages (a screenshot does); its own ticks must not run the next step.
+        m_busy = true;
+        m_steps[m_next++](front.found);
+        m_busy = false;
         return;
     }
     if (GetTickCount() - m_idleSince > kStuckMs) {
@@ -157,6 +152,24 @@ void DialogDriver::OnTick() {
         m_idleSince = GetTickCount();
         PostMessageW(front.found, WM_COMMAND, IDCANCEL, 0);
     }
+}
+
+cv2::IniDocument DocOf(const std::string& text) {
+    cv2::IniDocument doc;
+    doc.Parse(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+    return doc;
+}
+
+std::vector<std::wstring> ListBoxTexts(HWND list) {
+    std::vector<std::wstring> texts;
+    const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+        std::wstring text(static_cast<size_t>(SendMessageW(list, LB_GETTEXTLEN, i, 0)) + 1, L'\0');
+        const LRESULT got = SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(&text[0]));
+        text.resize(got > 0 ? static_cast<size_t>(got) : 0);
+        texts.push_back(text);
+    }
+    return texts;
 }
 
 std::wstring WindowText(HWND window) {
@@ -188,11 +201,37 @@ void PressItem(HWND dialog, int id) {
                  reinterpret_cast<LPARAM>(GetDlgItem(dialog, id)));
 }
 
-std::string Narrow(const std::wstring& text) {
-    std::string out;
-    for (wchar_t c : text)
-        out += c < 128 ? static_cast<char>(c) : '?';
-    return out;
+namespace {
+std::wstring Describe(HWND control) {
+    wchar_t cls[32] = {};
+    GetClassNameW(control, cls, 32);
+    return std::wstring(cls) + L" " + std::to_wstring(GetDlgCtrlID(control)) + L" \"" +
+           WindowText(control).substr(0, 30) + L"\"";
+}
+} // namespace
+
+void ExpectLaidOutApart(HWND parent) {
+    RECT client;
+    GetClientRect(parent, &client);
+    std::vector<std::pair<HWND, RECT>> placed;
+    for (HWND c = GetWindow(parent, GW_CHILD); c; c = GetWindow(c, GW_HWNDNEXT)) {
+        if (!IsWindowVisible(c))
+            continue;
+        RECT r;
+        GetWindowRect(c, &r);
+        MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&r), 2);
+        RECT inside;
+        IntersectRect(&inside, &r, &client);
+        EXPECT_TRUE(EqualRect(&inside, &r))
+            << "outside the client area: " << ::testing::PrintToString(Describe(c));
+        for (const auto& other : placed) {
+            RECT overlap;
+            EXPECT_FALSE(IntersectRect(&overlap, &r, &other.second))
+                << ::testing::PrintToString(Describe(c)) << " overlaps "
+                << ::testing::PrintToString(Describe(other.first));
+        }
+        placed.emplace_back(c, r);
+    }
 }
 
 } // namespace cv2test

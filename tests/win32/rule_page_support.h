@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "store/ini_document.h"
 #include "ui/settings_page.h"
 
 namespace cv2test {
@@ -45,6 +46,7 @@ class PageHost {
 // Works the modal dialogs that open while it lives: each step runs once, in order, on the
 // dialog in front (the topmost enabled dialog of this thread) as soon as one is up. A dialog
 // left open with no step to run is cancelled after a few seconds, so a test never hangs.
+// Steps post the commands that open or close dialogs (PressItem) instead of sending them.
 class DialogDriver {
   public:
     using Step = std::function<void(HWND dialog)>;
@@ -66,7 +68,13 @@ class DialogDriver {
     UINT_PTR m_timer = 0;
     DWORD m_idleSince = 0;
     bool m_cancelledStuck = false;
+    bool m_busy = false;
 };
+
+// A document parsed from file text.
+cv2::IniDocument DocOf(const std::string& text);
+// The rows of a list box, top to bottom.
+std::vector<std::wstring> ListBoxTexts(HWND list);
 
 // Dialog steps.
 std::wstring ItemText(HWND dialog, int id);
@@ -77,7 +85,7 @@ void ClickItem(HWND dialog, int id);
 void PressItem(HWND dialog, int id);
 std::wstring WindowText(HWND window);
 
-// The dialog's texts as the user sees them, for readable failure messages.
-std::string Narrow(const std::wstring& text);
+// Expects the visible children of `parent` inside its client area and clear of each other.
+void ExpectLaidOutApart(HWND parent);
 
 } // namespace cv2test

@@ -11,12 +11,6 @@ using Texts = std::vector<std::wstring>;
 
 namespace {
 
-IniDocument Doc(const std::string& text) {
-    IniDocument doc;
-    doc.Parse(reinterpret_cast<const unsigned char*>(text.data()), text.size());
-    return doc;
-}
-
 // A dialog step that fills in the field, picks the action's radio button and confirms.
 DialogDriver::Step Answer(const std::wstring& text, int radio) {
     return [text, radio](HWND dialog) {
@@ -30,7 +24,7 @@ DialogDriver::Step Answer(const std::wstring& text, int radio) {
 template <class Page> class RulePageTest : public ::testing::Test {
   protected:
     void Open(const std::string& config) {
-        m_doc = Doc(config);
+        m_doc = DocOf(config);
         m_host.Add(m_page);
         m_page.Load(&m_doc);
     }
@@ -101,7 +95,7 @@ TEST_F(TaskManagementPageTest, ModifyOpensTheDialogOnTheRuleAndReplacesIt) {
     EXPECT_TRUE(minimizeChecked);
     EXPECT_EQ(m_host.ListTexts(), (Texts{L"Notes [Ignore]", L"Word [Close]"}));
     m_page.Save(nullptr);
-    EXPECT_EQ(Doc(m_doc.Serialize()).GetString(L"Custom Tasks", L"\"Inbox\"", L"<none>"),
+    EXPECT_EQ(DocOf(m_doc.Serialize()).GetString(L"Custom Tasks", L"\"Inbox\"", L"<none>"),
               L"<none>");
     EXPECT_EQ(m_doc.GetString(L"Custom Tasks", L"\"Word\"", L""), L"close");
 }
@@ -215,7 +209,7 @@ TEST_F(TaskManagementPageTest, NeverSelectedPageStillSavesIntoTheTarget) {
     PageHost host;
     TaskManagementPage page;
     host.Add(page, false);
-    IniDocument doc = Doc("");
+    IniDocument doc = DocOf("");
     page.Load(&doc);
     IniDocument other;
     page.Save(&other);

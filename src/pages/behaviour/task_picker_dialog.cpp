@@ -42,6 +42,10 @@ class TaskPicker : public FullScreenDialog {
     }
 
     void OnInit(HWND dialog) override {
+        // The picker carries on the dialog it was opened from, under the same title.
+        wchar_t title[128] = {};
+        GetWindowTextW(GetWindow(dialog, GW_OWNER), title, 128);
+        SetWindowTextW(dialog, title);
         SetLocalizedItemText(dialog, IDOK, IDS_OK);
         SetLocalizedItemText(dialog, IDCANCEL, IDS_CANCEL);
         HWND list = GetDlgItem(dialog, IDC_TASK_PICKER_LIST);

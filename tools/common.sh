@@ -85,6 +85,9 @@ ensure_prefix() {
     log "creating the Wine prefix in $CV2_WINEPREFIX"
     mkdir -p "$CV2_WINEPREFIX"
     "$WINE" wineboot --init >/dev/null 2>&1 || true
+    # No window manager runs on the private X server: Wine must not wait for one (it would
+    # spend two seconds on every window it hides or destroys).
+    "$WINE" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1
     WINEPREFIX="$CV2_WINEPREFIX" wineserver -w
 }
 

@@ -99,9 +99,9 @@ set_dpi() {
 
 # Prepares a device screen: X server of that size, a fresh wineserver, that density.
 use_screen() {
-    local spec
-    spec=$(screen_spec "$1") || { echo "unknown screen '$1' (one of: $SCREENS)" >&2; return 1; }
-    set -- $spec
+    local geometry
+    geometry=$(screen_spec "$1") || { echo "unknown screen '$1' (one of: $SCREENS)" >&2; return 1; }
+    set -- $geometry
     stop_wine
     start_xvfb "$1"
     ensure_prefix

@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "pages/behaviour/delays_page.h"
 #include "pages/behaviour/rule_pages.h"
 
 namespace cv2 {
@@ -26,6 +27,7 @@ std::vector<SettingsPage*> CreateMainPages() {
     pages.push_back(Make<SkinnedApplicationsPage>());
     // "Theme Overrides"
     // "Delays/Timers"
+    pages.push_back(Make<DelaysPage>());
     // "Plugins"
     return pages;
 }

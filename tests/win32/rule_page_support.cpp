@@ -115,6 +115,11 @@ std::vector<LPARAM> PageHost::ListData() const {
 }
 
 DialogDriver::DialogDriver(std::vector<Step> steps) : m_steps(std::move(steps)) {
+    // A quit request left by an earlier test (a main window posts one when destroyed) would end
+    // the next modal loop at once.
+    MSG stale;
+    while (PeekMessageW(&stale, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
+    }
     g_driver = this;
     m_idleSince = GetTickCount();
     m_timer = SetTimer(nullptr, 0, 40, Tick);

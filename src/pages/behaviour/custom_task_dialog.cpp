@@ -110,7 +110,7 @@ class CustomTaskDialog : public FullScreenDialog {
 
 bool RunCustomTaskDialog(HWND owner, const wchar_t* caption, RuleRecord& record) {
     CustomTaskDialog dialog(caption, record);
-    if (dialog.Run(owner, IDD_CUSTOM_TASK) != IDOK)
+    if (dialog.Run(owner, {IDD_CUSTOM_TASK, IDD_CUSTOM_TASK, 0}) != IDOK)
         return false;
     record = dialog.Record();
     return true;

@@ -5,18 +5,6 @@
 
 namespace cv2 {
 
-bool InitFullScreenDialog(HWND dialog) {
-    SHINITDLGINFO init = {SHIDIM_FLAGS, dialog,
-                          SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN};
-    if (!SHInitDialog(&init))
-        return false;
-    SHMENUBARINFO bar = {};
-    bar.cbSize = sizeof bar;
-    bar.hwndParent = dialog;
-    bar.dwFlags = SHCMBF_EMPTYBAR;
-    return SHCreateMenuBar(&bar) != FALSE;
-}
-
 void DialogAnchors::Capture(HWND dialog, const ControlAnchor* anchors, size_t count) {
     RECT client;
     GetClientRect(dialog, &client);
@@ -52,16 +40,25 @@ void DialogAnchors::Apply(HWND dialog) const {
     }
 }
 
-INT_PTR FullScreenDialog::Run(HWND owner, int templateId) {
-    return DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), owner, Proc,
-                           reinterpret_cast<LPARAM>(this));
+INT_PTR FullScreenDialog::Run(HWND owner, const DialogTemplates& templates) {
+    return RunDialog(owner, templates, Proc, reinterpret_cast<LPARAM>(this));
 }
+
+namespace {
+bool AddEmptyMenuBar(HWND dialog) {
+    SHMENUBARINFO bar = {};
+    bar.cbSize = sizeof bar;
+    bar.hwndParent = dialog;
+    bar.dwFlags = SHCMBF_EMPTYBAR;
+    return SHCreateMenuBar(&bar) != FALSE;
+}
+} // namespace
 
 bool FullScreenDialog::Init(HWND dialog) {
     size_t count = 0;
     const ControlAnchor* anchors = Anchors(&count);
     m_anchors.Capture(dialog, anchors, count);
-    if (!InitFullScreenDialog(dialog))
+    if (!InitFullScreenDialog(dialog) || !AddEmptyMenuBar(dialog))
         return false;
     OnInit(dialog);
     return true;

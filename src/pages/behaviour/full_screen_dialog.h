@@ -6,11 +6,9 @@
 #include <cstddef>
 #include <vector>
 
-namespace cv2 {
+#include "ui/dialog_layout.h"
 
-// Sizes the dialog to the whole screen with the shell's Done button and gives it an empty menu
-// bar. False when either shell call fails; the dialog must then not open.
-bool InitFullScreenDialog(HWND dialog);
+namespace cv2 {
 
 // How a control follows the dialog's size: its right or bottom edge stretches, or the whole
 // control moves along, with the dialog's right or bottom edge.
@@ -43,14 +41,15 @@ class DialogAnchors {
     SIZE m_client = {0, 0};
 };
 
-// A modal dialog sized to the whole screen. The common parts are done here: the shell calls
-// (the dialog does not open when they fail), the anchored layout and Cancel; a dialog adds its
-// own set-up and commands.
+// A modal dialog sized to the whole screen, above an empty menu bar. The common parts are done
+// here: the shell calls (the dialog does not open when one fails), the anchored layout and
+// Cancel; a dialog adds its own set-up and commands.
 class FullScreenDialog {
   public:
     virtual ~FullScreenDialog() = default;
-    // Runs template `templateId`: IDOK or IDCANCEL as the dialog ended, -1 when it could not open.
-    INT_PTR Run(HWND owner, int templateId);
+    // Runs the template for the current screen: IDOK or IDCANCEL as the dialog ended, -1 when
+    // it could not open.
+    INT_PTR Run(HWND owner, const DialogTemplates& templates);
 
   protected:
     virtual const ControlAnchor* Anchors(size_t* count) const = 0;

@@ -5,12 +5,12 @@
 #include "ids_behaviour.h"
 #include "pages/behaviour/full_screen_dialog.h"
 #include "pages/behaviour/task_choices.h"
-#include "store/scale.h"
-#include "store/screen.h"
 #include "store/strings.h"
 
 namespace cv2 {
 namespace {
+
+const DialogTemplates kPickerTemplates = {IDD_TASK_PICKER, IDD_TASK_PICKER_WIDE, 0};
 
 // Portrait and square screens: the buttons stay under the list.
 const ControlAnchor kTallAnchors[] = {
@@ -80,10 +80,10 @@ class TaskPicker : public FullScreenDialog {
 
 bool RunTaskPicker(HWND owner, bool processNames, std::wstring& choice) {
     const std::vector<TopWindowInfo> windows = ListTopWindows();
-    const bool wide = ChooseLayout(ScreenWidth(), ScreenHeight(), false) == DialogLayout::Landscape;
+    const bool wide = ChooseTemplate(kPickerTemplates) == IDD_TASK_PICKER_WIDE;
     TaskPicker picker(wide, processNames ? ProcessNameChoices(windows, SnapshotProcesses())
                                          : WindowTitleChoices(windows));
-    if (picker.Run(owner, wide ? IDD_TASK_PICKER_WIDE : IDD_TASK_PICKER) != IDOK)
+    if (picker.Run(owner, kPickerTemplates) != IDOK)
         return false;
     choice = picker.Choice();
     return true;

@@ -8,3 +8,8 @@ list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/image/icon_reader.cpp
   ${CMAKE_CURRENT_LIST_DIR}/image/image_scale.cpp
   ${CMAKE_CURRENT_LIST_DIR}/image/image_files.cpp)
+# The loaded-image type, the loader and the drawing of images.
+list(APPEND CV2_WIN_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/image/loaded_image.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/image/image_loader.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/image/image_draw.cpp)

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "../unit/image_test_data.h"
-#include "../unit/temp_folder.h"
+#include "temp_folder.h"
 #include "ui/image/icon_reader.h"
 
 using namespace cv2;

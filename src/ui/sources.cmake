@@ -7,4 +7,7 @@ list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/pickers/font_metrics.cpp
   ${CMAKE_CURRENT_LIST_DIR}/pickers/font_style.cpp)
 list(APPEND CV2_WIN_SOURCES
-  ${CMAKE_CURRENT_LIST_DIR}/pickers/font_record.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/pickers/color_picker.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/pickers/font_picker.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/pickers/font_record.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/pickers/picker_layout.cpp)

@@ -99,15 +99,7 @@ set_dpi() {
     WINEPREFIX="$CV2_WINEPREFIX" "$WINESERVER" -w
 }
 
-# On the private X server there is no window manager: Wine would wait 2 s for one each time a
-# top-level window is hidden, and would leave window captions undrawn for it. Windows that Wine
-# manages itself draw their own captions and hide at once.
-set_unmanaged() {
-    "$WINE" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1
-}
-
-# Prepares a device screen: X server of that size, a fresh wineserver, unmanaged windows, that
-# density.
+# Prepares a device screen: X server of that size, a fresh wineserver, that density.
 use_screen() {
     local geometry
     geometry=$(screen_spec "$1") || { echo "unknown screen '$1' (one of: $SCREENS)" >&2; return 1; }
@@ -115,7 +107,6 @@ use_screen() {
     stop_wine
     start_xvfb "$1"
     ensure_prefix
-    set_unmanaged
     set_dpi "$2"
 }
 

@@ -75,6 +75,11 @@ class DialogDriver {
 class PickerHostTest : public ::testing::Test {
   protected:
     void SetUp() override {
+        // A main window destroyed by an earlier test leaves its quit request in this thread's
+        // queue; a modal loop would take it and end at once.
+        MSG quit;
+        while (PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
+        }
         cv2::ReadScreenDensities();
         cv2::CreateSharedFonts();
         WNDCLASSW wc = {};

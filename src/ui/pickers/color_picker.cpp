@@ -47,13 +47,6 @@ const ControlPlace kPlaces[] = {
     {IDC_COLOR_BLUE_EDIT, From::Right, -46, From::Right, -4, 63, 20},
 };
 
-#ifdef UNDER_CE
-const int kBackgroundColor = COLOR_STATIC;
-#else
-// Desktop Windows paints static controls and dialogs with the button face.
-const int kBackgroundColor = COLOR_BTNFACE;
-#endif
-
 int SliderPos(HWND dlg, int slider) {
     return static_cast<int>(SendDlgItemMessageW(dlg, slider, TBM_GETPOS, 0, 0));
 }
@@ -116,7 +109,7 @@ void OnPaint(HWND dlg) {
     HDC mem = CreateCompatibleDC(screen);
     HBITMAP bitmap = CreateCompatibleBitmap(screen, client.right, client.bottom);
     HGDIOBJ oldBitmap = SelectObject(mem, bitmap);
-    FillRect(mem, &client, GetSysColorBrush(kBackgroundColor));
+    FillRect(mem, &client, StaticBackgroundBrush());
     RECT swatch;
     if (g_openPicker && IntersectRect(&swatch, &g_openPicker->preview, &client)) {
         HBRUSH brush = CreateSolidBrush(ColorOfSliders(dlg));
@@ -166,6 +159,8 @@ INT_PTR CALLBACK ColorDialogProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM lPara
     case WM_PAINT:
         OnPaint(dlg);
         return TRUE;
+    case WM_CTLCOLORSTATIC:
+        return StaticColors(reinterpret_cast<HDC>(wParam));
     }
     return FALSE;
 }

@@ -298,6 +298,9 @@ INT_PTR CALLBACK FontDialogProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM lParam
     case WM_PAINT:
         PaintSample(dlg);
         return TRUE;
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSTATIC:
+        return StaticColors(reinterpret_cast<HDC>(wParam));
     }
     return FALSE;
 }

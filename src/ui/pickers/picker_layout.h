@@ -39,6 +39,11 @@ void SetControlTexts(HWND dialog, const ControlText* texts, size_t count);
 // shared fonts exist).
 void SetDialogFonts(HWND dialog, const int* boldIds, size_t boldCount);
 
+// Answers WM_CTLCOLORDLG and WM_CTLCOLORSTATIC: the pickers are painted in the device's
+// static-control colours, labels, sliders and check boxes on the same ground as the dialog.
+HBRUSH StaticBackgroundBrush();
+INT_PTR StaticColors(HDC dc);
+
 // True when the screen is wide enough for controls side by side (landscape or square).
 bool UseWideLayout();
 

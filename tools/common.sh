@@ -99,12 +99,6 @@ set_dpi() {
     WINEPREFIX="$CV2_WINEPREFIX" "$WINESERVER" -w
 }
 
-# The private X server runs no window manager: Wine must not wait for one (it otherwise waits
-# two seconds each time a captioned or top-level window is hidden or destroyed).
-set_unmanaged() {
-    "$WINE" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1
-}
-
 # Prepares a device screen: X server of that size, a fresh wineserver, that density.
 use_screen() {
     local geometry
@@ -113,7 +107,6 @@ use_screen() {
     stop_wine
     start_xvfb "$1"
     ensure_prefix
-    set_unmanaged
     set_dpi "$2"
 }
 

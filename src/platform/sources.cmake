@@ -8,4 +8,7 @@ list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/com_win32.cpp
   ${CMAKE_CURRENT_LIST_DIR}/device_colors_win32.cpp
   ${CMAKE_CURRENT_LIST_DIR}/shell_win32.cpp)
+list(APPEND CV2_WIN_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/image_decoder_win32.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/transparent_image_win32.cpp)
 list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/running_tasks_win32.cpp)

@@ -5,3 +5,4 @@ list(APPEND CV2_CORE_POSIX
   ${CMAKE_CURRENT_LIST_DIR}/file_access_posix.cpp
   ${CMAKE_CURRENT_LIST_DIR}/string_module_posix.cpp)
 list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/shell_win32.cpp)
+list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/user_registry_win32.cpp)

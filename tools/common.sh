@@ -85,6 +85,9 @@ ensure_prefix() {
     log "creating the Wine prefix in $CV2_WINEPREFIX"
     mkdir -p "$CV2_WINEPREFIX"
     "$WINE" wineboot --init >/dev/null 2>&1 || true
+    # No window manager runs on the private X server: Wine must not wait for one (it would
+    # spend two seconds on every window it hides or destroys).
+    "$WINE" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1
     WINEPREFIX="$CV2_WINEPREFIX" wineserver -w
 }
 
@@ -96,9 +99,9 @@ set_dpi() {
 
 # Prepares a device screen: X server of that size, a fresh wineserver, that density.
 use_screen() {
-    local spec
-    spec=$(screen_spec "$1") || { echo "unknown screen '$1' (one of: $SCREENS)" >&2; return 1; }
-    set -- $spec
+    local geometry
+    geometry=$(screen_spec "$1") || { echo "unknown screen '$1' (one of: $SCREENS)" >&2; return 1; }
+    set -- $geometry
     stop_wine
     start_xvfb "$1"
     ensure_prefix

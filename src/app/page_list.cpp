@@ -3,6 +3,7 @@
 #include <new>
 
 #include "pages/behaviour/clock_settings_page.h"
+#include "pages/behaviour/delays_page.h"
 #include "pages/behaviour/general_settings_page.h"
 #include "pages/behaviour/start_menu_settings_page.h"
 #include "themes/overrides_page.h"
@@ -32,6 +33,7 @@ std::vector<SettingsPage*> CreateMainPages() {
     // "Theme Overrides"
     pages.push_back(Make<ThemeOverridesPage>());
     // "Delays/Timers"
+    pages.push_back(Make<DelaysPage>());
     // "Plugins"
     return pages;
 }

@@ -10,10 +10,10 @@
 
 #include "check_pages_host.h"
 #include "screen_capture.h"
-#include "../unit/temp_folder.h"
+#include "shell_link.h"
+#include "temp_folder.h"
 
 #include <commctrl.h>
-#include <objbase.h>
 #include <shlobj.h>
 
 using namespace cv2;
@@ -52,29 +52,6 @@ std::vector<int> CheckedRows(HWND list) {
             rows.push_back(i);
     }
     return rows;
-}
-
-// The command line a shell link starts: its target in quotes, then its arguments.
-std::wstring LinkCommandLine(const std::wstring& file) {
-    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    std::wstring line;
-    IShellLinkW* link = nullptr;
-    if (SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
-                                   reinterpret_cast<void**>(&link)))) {
-        IPersistFile* persist = nullptr;
-        if (SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&persist)))) {
-            if (SUCCEEDED(persist->Load(file.c_str(), STGM_READ))) {
-                wchar_t path[MAX_PATH] = {}, args[MAX_PATH] = {};
-                link->GetPath(path, MAX_PATH, nullptr, SLGP_RAWPATH);
-                link->GetArguments(args, MAX_PATH);
-                line = L"\"" + std::wstring(path) + L"\" " + args;
-            }
-            persist->Release();
-        }
-        link->Release();
-    }
-    CoUninitialize();
-    return line;
 }
 
 } // namespace

@@ -1,3 +1,5 @@
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/delay_settings.cpp)
+list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/delays_page.cpp)
 list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/check_list_rows.cpp
   ${CMAKE_CURRENT_LIST_DIR}/clock_values.cpp

@@ -4,3 +4,4 @@ list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/page_host.cpp
   ${CMAKE_CURRENT_LIST_DIR}/settings_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/shared_fonts.cpp)
+list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/text_extent.cpp)

@@ -1,5 +1,7 @@
 #include "ui/pickers/color_picker.h"
 
+#include "platform/device_colors.h"
+
 #include <commctrl.h>
 
 #include <cwchar>
@@ -9,7 +11,7 @@
 #include "store/scale.h"
 #include "store/screen.h"
 #include "store/strings.h"
-#include "ui/pickers/picker_layout.h"
+#include "ui/control_layout.h"
 
 namespace cv2 {
 namespace {
@@ -109,7 +111,7 @@ void OnPaint(HWND dlg) {
     HDC mem = CreateCompatibleDC(screen);
     HBITMAP bitmap = CreateCompatibleBitmap(screen, client.right, client.bottom);
     HGDIOBJ oldBitmap = SelectObject(mem, bitmap);
-    FillRect(mem, &client, StaticBackgroundBrush());
+    FillRect(mem, &client, DeviceStaticBrush());
     RECT swatch;
     if (g_openPicker && IntersectRect(&swatch, &g_openPicker->preview, &client)) {
         HBRUSH brush = CreateSolidBrush(ColorOfSliders(dlg));

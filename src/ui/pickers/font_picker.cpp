@@ -9,7 +9,7 @@
 #include "store/scale.h"
 #include "store/strings.h"
 #include "ui/pickers/color_picker.h"
-#include "ui/pickers/picker_layout.h"
+#include "ui/control_layout.h"
 
 namespace cv2 {
 namespace {

@@ -6,5 +6,4 @@ list(APPEND CV2_CORE_SOURCES
 list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/color_picker.cpp
   ${CMAKE_CURRENT_LIST_DIR}/font_picker.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/font_record.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/picker_layout.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/font_record.cpp)

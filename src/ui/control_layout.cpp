@@ -1,4 +1,4 @@
-#include "ui/pickers/picker_layout.h"
+#include "ui/control_layout.h"
 
 #include "platform/device_colors.h"
 #include "store/scale.h"
@@ -60,25 +60,7 @@ void SetDialogFonts(HWND dialog, const int* boldIds, size_t boldCount) {
         SetControlFont(GetDlgItem(dialog, boldIds[i]), CaptionFont());
 }
 
-HBRUSH StaticBackgroundBrush() {
-    // Made once and kept for the program's life; made again only if the colour changes.
-    static HBRUSH brush = nullptr;
-    static COLORREF color = 0;
-    const COLORREF now = DeviceSysColor(COLOR_STATIC);
-    if (!brush || now != color) {
-        if (brush)
-            DeleteObject(brush);
-        brush = CreateSolidBrush(now);
-        color = now;
-    }
-    return brush;
-}
-
-INT_PTR StaticColors(HDC dc) {
-    SetTextColor(dc, DeviceSysColor(COLOR_STATICTEXT));
-    SetBkColor(dc, DeviceSysColor(COLOR_STATIC));
-    return reinterpret_cast<INT_PTR>(StaticBackgroundBrush());
-}
+INT_PTR StaticColors(HDC dc) { return reinterpret_cast<INT_PTR>(DeviceStaticColors(dc)); }
 
 bool UseWideLayout() {
     return ChooseLayout(ScreenWidth(), ScreenHeight(), true) != DialogLayout::Portrait;

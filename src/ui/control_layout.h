@@ -1,4 +1,4 @@
-// Placement of the pickers' controls. A place is written in 96-dpi units for a screen of any
+// Placement of dialog controls. A place is written in 96-dpi units for a screen of any
 // width: each horizontal edge is measured from the client's left edge, its middle or its right
 // edge, so one table serves narrow and wide screens, and the numbers are scaled to the screen's
 // density when applied.
@@ -39,9 +39,8 @@ void SetControlTexts(HWND dialog, const ControlText* texts, size_t count);
 // shared fonts exist).
 void SetDialogFonts(HWND dialog, const int* boldIds, size_t boldCount);
 
-// Answers WM_CTLCOLORDLG and WM_CTLCOLORSTATIC: the pickers are painted in the device's
+// Answers WM_CTLCOLORDLG and WM_CTLCOLORSTATIC: dialogs are painted in the device's
 // static-control colours, labels, sliders and check boxes on the same ground as the dialog.
-HBRUSH StaticBackgroundBrush();
 INT_PTR StaticColors(HDC dc);
 
 // True when the screen is wide enough for controls side by side (landscape or square).

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "check_pages_host.h" // WindowText
 #include "store/ini_document.h"
 #include "ui/settings_page.h"
 
@@ -83,7 +84,6 @@ void SetItemText(HWND dialog, int id, const std::wstring& text);
 void ClickItem(HWND dialog, int id);
 // Posts the button's command, for buttons that open or close a dialog.
 void PressItem(HWND dialog, int id);
-std::wstring WindowText(HWND window);
 
 // Expects the visible children of `parent` inside its client area and clear of each other.
 void ExpectLaidOutApart(HWND parent);

@@ -103,14 +103,14 @@ class CheckPagesE2E : public DeviceFixture {
         EXPECT_TRUE(list && IsWindowVisible(list));
         return list;
     }
-    // Toggles the first row's check box from the keyboard, as a user of the device would.
+    // Toggles the first row's check box from the keyboard, as a user of the device would, and
+    // waits until the list has handled the keys (a sent message would overtake posted ones).
     static void ToggleFirstRow(HWND list) {
         const bool before = FirstRowChecked(list);
         PostMessageW(list, WM_KEYDOWN, VK_HOME, 0);
         PostMessageW(list, WM_KEYDOWN, VK_SPACE, 0);
         PostMessageW(list, WM_KEYUP, VK_SPACE, 0);
-        // A sent message overtakes posted ones, so wait for the keys' effect itself.
-        WaitFor([&] { return FirstRowChecked(list) != before; }, 3000);
+        WaitFor([&] { return FirstRowChecked(list) != before; }, 5000);
     }
     static bool FirstRowChecked(HWND list) {
         // The state query carries no pointer, so it works across processes.

@@ -10,9 +10,7 @@ const int kValueChars = 256;
 
 // Rows of the page in 96-dpi units: the caption's top; the box sits 16 below it and the unit
 // label 19 below it, every row 39 apart.
-int CaptionTop(int row) {
-    return 29 + 39 * row;
-}
+int CaptionTop(int row) { return 29 + 39 * row; }
 
 HWND MakeChild(HWND host, const wchar_t* cls, const wchar_t* text, DWORD style, int x, int y, int w,
                int h, HFONT font) {
@@ -40,11 +38,11 @@ void DelaysPage::Create(HWND host) {
         const int top = CaptionTop(i);
         m_controls[i][0] = MakeChild(host, L"STATIC", Localized(kDelaySettings[i].caption), 0, 3,
                                      top, 234, 13, CaptionFont());
-        m_controls[i][1] =
-            MakeChild(host, L"EDIT", L"", WS_BORDER | WS_TABSTOP | ES_NUMBER | ES_AUTOHSCROLL, 3,
-                      top + 16, 40, 20, TextFont());
-        m_controls[i][2] = MakeChild(host, L"STATIC", Localized(IDS_SECONDS), 0, 46, top + 19, 150,
-                                     13, TextFont());
+        m_controls[i][1] = MakeChild(host, L"EDIT", L"",
+                                     WS_BORDER | WS_TABSTOP | ES_NUMBER | ES_AUTOHSCROLL, 3,
+                                     top + 16, 40, 20, TextFont());
+        m_controls[i][2] = MakeChild(host, L"STATIC", Localized(IDS_SECONDS), 0, 46, top + 19,
+                                     150, 13, TextFont());
     }
 }
 
@@ -56,8 +54,7 @@ void DelaysPage::Load(IniDocument* doc) {
     SettingsPage::Load(doc);
     for (int i = 0; i < kDelaySettingCount; ++i) {
         const DelaySetting& s = kDelaySettings[i];
-        SetWindowTextW(Edit(i),
-                       doc->GetString(kDelaySection, s.key, s.defaultValue, kValueChars).c_str());
+        SetWindowTextW(Edit(i), doc->GetString(kDelaySection, s.key, s.defaultValue, kValueChars).c_str());
     }
 }
 

@@ -5,6 +5,7 @@
 #include "pages/behaviour/clock_settings_page.h"
 #include "pages/behaviour/delays_page.h"
 #include "pages/behaviour/general_settings_page.h"
+#include "pages/behaviour/rule_pages.h"
 #include "pages/behaviour/start_menu_settings_page.h"
 #include "themes/overrides_page.h"
 
@@ -24,12 +25,15 @@ std::vector<SettingsPage*> CreateMainPages() {
     // "Start Menu Settings"
     pages.push_back(Make<StartMenuSettingsPage>());
     // "Task Management"
+    pages.push_back(Make<TaskManagementPage>());
     // "SIP Panel"
+    pages.push_back(Make<SipPanelPage>());
     // "Clock Settings"
     pages.push_back(Make<ClockSettingsPage>());
     // "Button Assignments"
     // "Button Order"
     // "Skinned Applications"
+    pages.push_back(Make<SkinnedApplicationsPage>());
     // "Theme Overrides"
     pages.push_back(Make<ThemeOverridesPage>());
     // "Delays/Timers"

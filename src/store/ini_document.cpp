@@ -10,12 +10,6 @@
 namespace cv2 {
 namespace {
 
-wchar_t FoldCase(wchar_t c) {
-    if ((c >= L'A' && c <= L'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7))
-        return static_cast<wchar_t>(c + 32);
-    return c;
-}
-
 bool IsLineBreak(wchar_t c) { return c == L'\n' || c == L'\r'; }
 
 // Cuts at the first '#' outside double quotes, then strips trailing blanks and line breaks and
@@ -42,6 +36,12 @@ std::wstring Clean(const std::wstring& text) {
 enum class ParseState { Idle, SectionName, Comment, Key, Value };
 
 } // namespace
+
+wchar_t FoldCase(wchar_t c) {
+    if ((c >= L'A' && c <= L'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7))
+        return static_cast<wchar_t>(c + 32);
+    return c;
+}
 
 bool EqualsNoCase(const wchar_t* a, const wchar_t* b) {
     for (; *a && *b; ++a, ++b) {
@@ -266,6 +266,10 @@ void IniDocument::DeleteSection(const wchar_t* section) {
             return;
         }
     }
+}
+
+void IniDocument::EmptySection(const wchar_t* section) {
+    FindOrAddSection(section).entries.clear();
 }
 
 void IniDocument::MergeFrom(const IniDocument& other, bool resolvePaths) {

@@ -55,6 +55,9 @@ class IniDocument {
     // The entries of the first section of that name, in order; empty if missing or empty.
     std::vector<EntryRef> GetSectionEntries(const wchar_t* section) const;
     void DeleteSection(const wchar_t* section);
+    // Releases every entry of the section; the section itself stays where it is, or is added
+    // empty at the end when it was missing (list pages rewrite their section this way).
+    void EmptySection(const wchar_t* section);
 
     // Writes every key of `other` into this document. With `resolvePaths`, a value that is not
     // empty and not absolute is taken as relative to the folder of `other`'s file and replaced by
@@ -79,6 +82,8 @@ class IniDocument {
 
 // Case-insensitive comparison used for section and key names (ASCII and Latin-1 letters fold).
 bool EqualsNoCase(const wchar_t* a, const wchar_t* b);
+// The lower-case form of an ASCII or Latin-1 capital; any other character as it is.
+wchar_t FoldCase(wchar_t c);
 
 // The leading decimal number of a text, as the C runtime's wide-to-long conversion reads it:
 // leading blanks skipped, optional sign, digits; 0 when there are none. Saturates at 32 bits.

@@ -2,7 +2,6 @@
 
 #include <cwchar>
 
-#include "screen_capture.h"
 #include "store/screen.h"
 
 namespace cv2test {
@@ -17,7 +16,7 @@ LRESULT CALLBACK HostProc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam) {
     GridHost* host = g_host;
     if (host && msg == WM_COMMAND) {
         host->notices.push_back({cv2::GridNotifyCode(wParam), cv2::GridNotifyId(wParam),
-                                 reinterpret_cast<HWND>(lParam), InSendMessage() != FALSE});
+                                 reinterpret_cast<HWND>(lParam), true});
         return 0;
     }
     if (host && msg == cv2::GRN_NEEDITEM) {
@@ -88,11 +87,14 @@ LRESULT GridHost::Add(const std::wstring& caption, int picture) const {
     return Send(cv2::GRM_ADDITEM, 0, reinterpret_cast<LPARAM>(&desc));
 }
 
+// The columns come last: a scroll bar shown while items arrive one by one would keep the range
+// it had when it appeared.
 void GridHost::FillGrid(int count, int columns) {
     Send(cv2::GRM_SETVIEW, 0, 0);
-    Send(cv2::GRM_SETCOLUMNS, static_cast<WPARAM>(columns));
+    Send(cv2::GRM_SETCOLUMNS, 0);
     for (int i = 0; i < count; ++i)
         Add(L"Item " + std::to_wstring(i));
+    Send(cv2::GRM_SETCOLUMNS, static_cast<WPARAM>(columns));
     Paint();
 }
 
@@ -110,11 +112,37 @@ void GridHost::FillList(int count) {
     Paint();
 }
 
-void GridHost::Pump() const {
-    PumpMessages(50);
+int GridHost::DemandList(int count) {
+    Send(cv2::GRM_SETVIEW, 1, 1);
+    Send(cv2::GRM_SETCOUNT, static_cast<WPARAM>(count));
+    Paint();
+    SCROLLINFO si = {};
+    si.cbSize = sizeof si;
+    si.fMask = SIF_RANGE;
+    GetScrollInfo(grid, SB_VERT, &si);
+    return si.nMax / (count + 1); // the range holds one row more than the items
 }
 
-void GridHost::Paint() const {
+// Notices posted to the parent are taken from the queue here and recorded as posted; the parent's
+// window procedure sees only sent ones.
+void GridHost::Pump() {
+    const DWORD end = GetTickCount() + 50;
+    do {
+        MSG msg;
+        while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
+            if (msg.hwnd == parent && msg.message == WM_COMMAND) {
+                notices.push_back({cv2::GridNotifyCode(msg.wParam), cv2::GridNotifyId(msg.wParam),
+                                   reinterpret_cast<HWND>(msg.lParam), false});
+                continue;
+            }
+            TranslateMessage(&msg);
+            DispatchMessageW(&msg);
+        }
+        Sleep(10);
+    } while (static_cast<LONG>(end - GetTickCount()) > 0);
+}
+
+void GridHost::Paint() {
     UpdateWindow(grid);
     Pump();
 }

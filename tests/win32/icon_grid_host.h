@@ -17,7 +17,7 @@ struct GridNotice {
     WORD code;
     WORD id;
     HWND from;
-    bool sent; // true for SendMessage, false for PostMessage
+    bool sent; // true for SendMessage, false for PostMessage (seen by Pump)
 };
 
 constexpr int kGridId = 1024;
@@ -42,9 +42,11 @@ class GridHost {
     void DemandGrid(int count, int columns);
     // List of `count` plain items, not on demand.
     void FillList(int count);
-    // Runs pending paints and posted messages.
-    void Pump() const;
-    void Paint() const;
+    // List of `count` on-demand items, painted; returns its row height, read off the scroll range.
+    int DemandList(int count);
+    // Runs pending paints and posted messages for a moment.
+    void Pump();
+    void Paint();
     // Pen down and up at a client point of the grid.
     void Tap(int x, int y) const;
     void Key(WPARAM key) const;

@@ -85,10 +85,16 @@ void DrawPicture(const GridState& s, HDC dc, int picture, int x, int y) {
         ImageList_Draw(s.images, picture, dc, x, y, ILD_TRANSPARENT);
 }
 
-void DrawText(GridState& s, HDC dc, const std::wstring& text, const RECT& r, UINT flags,
-              bool selected) {
+// Selected captions are drawn in the highlight text colour, which is white like the thumbnail
+// glow; they glow in the selection's dark blue instead, or the text would vanish into its glow.
+void DrawItemText(GridState& s, HDC dc, const std::wstring& text, const RECT& r, UINT flags,
+                  bool selected) {
     s.font.color = selected ? GetSysColor(COLOR_HIGHLIGHTTEXT) : s.textColor;
+    const COLORREF glow = s.font.shadowColor;
+    if (selected)
+        s.font.shadowColor = kSelectedBottom;
     DrawCaption(s.font, dc, text.c_str(), r, flags, true);
+    s.font.shadowColor = glow;
 }
 
 // Asks the parent for an item's caption and picture. The parent may do anything meanwhile, even
@@ -136,7 +142,10 @@ void DrawThumbnail(GridState& s, HDC dc, const RECT& cell, int index) {
     const SIZE picture = PictureSize(s);
     DrawPicture(s, dc, item.picture, cell.left + (cell.right - cell.left - picture.cx) / 2,
                 cell.top);
-    DrawText(s, dc, item.caption, cell, kThumbCaption, item.selected);
+    // The glow reaches 2 pixels below the text: keep it off the grid line.
+    RECT caption = cell;
+    caption.bottom -= (s.font.style & kCaptionGlow) ? 2 : 0;
+    DrawItemText(s, dc, item.caption, caption, kThumbCaption, item.selected);
 }
 
 void DrawListRow(GridState& s, HDC dc, const RECT& row, int index) {
@@ -146,7 +155,7 @@ void DrawListRow(GridState& s, HDC dc, const RECT& row, int index) {
     DrawPicture(s, dc, item.picture, row.left + ScaleX(2), row.top);
     RECT text = row;
     text.left = ScaleX(4) + picture.cx;
-    DrawText(s, dc, item.caption, text, kListCaption, item.selected);
+    DrawItemText(s, dc, item.caption, text, kListCaption, item.selected);
 }
 
 void PaintItems(HWND hwnd, HDC dc, const RECT& update) {
@@ -168,7 +177,7 @@ void PaintItems(HWND hwnd, HDC dc, const RECT& update) {
         if (s->onDemand && !s->items[static_cast<size_t>(i)].fetched) {
             // Shown while the parent prepares the picture; the item is drawn over it after.
             if (!g.list)
-                DrawText(*s, dc, Localized(IDS_GRID_LOADING), cell, kLoading, false);
+                DrawItemText(*s, dc, Localized(IDS_GRID_LOADING), cell, kLoading, false);
             if (!(s = FetchItem(hwnd, i)))
                 return;
         }

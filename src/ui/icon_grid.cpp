@@ -50,6 +50,7 @@ LRESULT OnCreate(HWND hwnd) {
     CreateCaptionFont(s->font, L"Tahoma", 6, 0, true);
     SetCaptionStyle(*s);
     s->images = CreateGridImageList(s->view);
+    // The pointer-sized form of the user-data slot: a 64-bit desktop pointer needs it.
     SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(s));
     return 0;
 }

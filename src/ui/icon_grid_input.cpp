@@ -17,6 +17,14 @@ bool HasScrollBar(HWND hwnd) {
     return (GetWindowLongW(hwnd, GWL_STYLE) & WS_VSCROLL) != 0;
 }
 
+// Shows or hides the scroll bar through the window style, and lets the frame follow.
+void SetScrollBarStyle(HWND hwnd, bool shown) {
+    const LONG style = GetWindowLongW(hwnd, GWL_STYLE);
+    SetWindowLongW(hwnd, GWL_STYLE, shown ? (style | WS_VSCROLL) : (style & ~WS_VSCROLL));
+    SetWindowPos(hwnd, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
 } // namespace
 
 int GridRowHeight(const GridState& s) {
@@ -59,10 +67,10 @@ void UpdateGridScrollBar(GridState& s) {
     if (GridScrollFits(extent)) {
         if (HasScrollBar(s.hwnd)) {
             SetScrollInfo(s.hwnd, SB_VERT, &si, TRUE);
-            ShowScrollBar(s.hwnd, SB_VERT, FALSE);
+            SetScrollBarStyle(s.hwnd, false);
         }
     } else if (!HasScrollBar(s.hwnd)) {
-        ShowScrollBar(s.hwnd, SB_VERT, TRUE);
+        SetScrollBarStyle(s.hwnd, true);
         SetScrollInfo(s.hwnd, SB_VERT, &si, TRUE);
     }
 }

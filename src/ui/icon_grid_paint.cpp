@@ -117,21 +117,22 @@ GridState* FetchItem(HWND hwnd, int index) {
     return s;
 }
 
+void Line(HDC dc, int x1, int y1, int x2, int y2) {
+    const POINT points[2] = {{x1, y1}, {x2, y2}};
+    Polyline(dc, points, 2);
+}
+
 void DrawGridLines(HDC dc, const GridGeometry& g) {
     HPEN pen = CreatePen(PS_SOLID, 1, kGridLine);
     HGDIOBJ old = SelectObject(dc, pen);
     if (g.columns > 0) {
         const int width = g.clientWidth / g.columns;
         const int last = std::min(g.columns - 1, g.clientWidth);
-        for (int i = 1; i <= last; ++i) {
-            MoveToEx(dc, i * width, 0, nullptr);
-            LineTo(dc, i * width, g.clientHeight);
-        }
+        for (int i = 1; i <= last; ++i)
+            Line(dc, i * width, 0, i * width, g.clientHeight);
     }
-    for (int j = 1; j <= g.clientHeight / g.rowHeight; ++j) {
-        MoveToEx(dc, 0, j * g.rowHeight, nullptr);
-        LineTo(dc, g.clientWidth, j * g.rowHeight);
-    }
+    for (int j = 1; j <= g.clientHeight / g.rowHeight; ++j)
+        Line(dc, 0, j * g.rowHeight, g.clientWidth, j * g.rowHeight);
     SelectObject(dc, old);
     DeleteObject(pen);
 }

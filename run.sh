@@ -19,15 +19,24 @@ build_windows >/dev/null || { log "build failed"; exit 1; }
 exe=$(winpath "$BUILD/device/CV2Settings.exe")
 cd "$BUILD/device"
 
+# The test bar stands in for the bar: it logs each reload request it is sent.
+start_test_bar() {
+    "$WINE" "$(winpath "$BUILD/device/testbar.exe")" "$(winpath "$BUILD/bar.log")" &
+    sleep 2 # its windows are hidden, so there is nothing on screen to wait for
+    log "test bar running; it logs what it receives to $BUILD/bar.log"
+}
+
 if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then
     ensure_prefix
     set_dpi "$dpi"
+    start_test_bar
     log "starting the editor on $screen ($size, $dpi dpi) in a Wine virtual desktop"
     exec "$WINE" explorer "/desktop=CV2Settings,$size" "$exe" "$@"
 fi
 
 use_screen "$screen" || exit 1
 trap 'stop_wine; stop_xvfb' EXIT
+start_test_bar
 log "starting the editor on $screen ($size, $dpi dpi) on private display $DISPLAY"
 "$WINE" "$exe" "$@" &
 pid=$!

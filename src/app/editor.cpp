@@ -2,8 +2,48 @@
 // its message loop.
 #include <windows.h>
 
-namespace cv2 {
+#include "app/exe_folder.h"
+#include "app/page_list.h"
+#include "app/settings_app.h"
+#include "platform/com.h"
+#include "store/screen.h"
 
-int RunEditor(HINSTANCE) { return 0; }
+namespace cv2 {
+namespace {
+
+// Escape pressed in any control of the main window counts as Escape in the window itself, so
+// the cancel question comes wherever the focus is.
+void RouteEscapeToMainWindow(MSG& msg, HWND main) {
+    if (msg.message == WM_KEYDOWN && msg.wParam == VK_ESCAPE && msg.hwnd != main &&
+        IsChild(main, msg.hwnd))
+        msg.hwnd = main;
+}
+
+} // namespace
+
+int RunEditor(HINSTANCE instance) {
+    HANDLE mutex = CreateMutexW(nullptr, FALSE, L"CV2Settings_Mutex");
+    if (GetLastError() == ERROR_ALREADY_EXISTS) {
+        if (HWND first = FindWindowW(SettingsApp::kWindowClass, nullptr))
+            SetForegroundWindow(first);
+        CloseHandle(mutex);
+        return 0;
+    }
+    ReadScreenDensities();
+    InitializeCom();
+    {
+        SettingsApp app(instance, ExeFolder() + L"config.ini", CreateMainPages());
+        SetForegroundWindow(app.Window());
+        MSG msg;
+        while (GetMessageW(&msg, nullptr, 0, 0) > 0) {
+            RouteEscapeToMainWindow(msg, app.Window());
+            TranslateMessage(&msg);
+            DispatchMessageW(&msg);
+        }
+    }
+    UninitializeCom();
+    CloseHandle(mutex);
+    return 0;
+}
 
 } // namespace cv2

@@ -2,6 +2,8 @@
 
 #include <new>
 
+#include "pages/behaviour/delays_page.h"
+
 namespace cv2 {
 
 // Allocation failure gives a null page instead of an exception.
@@ -21,6 +23,7 @@ std::vector<SettingsPage*> CreateMainPages() {
     // "Skinned Applications"
     // "Theme Overrides"
     // "Delays/Timers"
+    pages.push_back(Make<DelaysPage>());
     // "Plugins"
     return pages;
 }

@@ -1,4 +1,6 @@
 list(APPEND CV2_WIN_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/dialog_layout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/page_host.cpp
   ${CMAKE_CURRENT_LIST_DIR}/settings_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/shared_fonts.cpp)
 list(APPEND CV2_CORE_SOURCES

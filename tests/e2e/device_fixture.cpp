@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <vector>
 
+#include "app/page_list.h"
 #include "platform/file_access.h"
 
 namespace cv2test {
@@ -66,6 +67,10 @@ void DeviceFixture::SetUp() {
 }
 
 void DeviceFixture::TearDown() {
+    if (EditorRunning()) {
+        TerminateProcess(m_editor.hProcess, 1);
+        WaitEditorExit(5000);
+    }
     StopBar();
     RemoveTree(m_dir);
     DeleteFileW(m_logPath.c_str());
@@ -125,6 +130,111 @@ DWORD DeviceFixture::RunEditor(const std::wstring& arguments, DWORD timeoutMs) {
     CloseHandle(pi.hProcess);
     CloseHandle(pi.hThread);
     return code;
+}
+
+HWND DeviceFixture::StartEditor() {
+    if (!Launch(File(L"CV2Settings.exe"), L"", m_editor)) {
+        ADD_FAILURE() << "could not start the editor";
+        return nullptr;
+    }
+    WaitForInputIdle(m_editor.hProcess, 10000);
+    WaitFor([&] { return (m_main = FindWindowW(L"CorvaneSettings", nullptr)) != nullptr; }, 20000);
+    EXPECT_TRUE(m_main) << "the editor's main window did not appear";
+    return m_main;
+}
+
+bool DeviceFixture::EditorRunning() const {
+    return m_editor.hProcess && WaitForSingleObject(m_editor.hProcess, 0) == WAIT_TIMEOUT;
+}
+
+bool DeviceFixture::WaitEditorExit(DWORD timeoutMs) {
+    if (!m_editor.hProcess)
+        return true;
+    const bool ended = WaitForSingleObject(m_editor.hProcess, timeoutMs) == WAIT_OBJECT_0;
+    if (!ended)
+        TerminateProcess(m_editor.hProcess, 1);
+    WaitForSingleObject(m_editor.hProcess, 5000);
+    CloseHandle(m_editor.hProcess);
+    CloseHandle(m_editor.hThread);
+    m_editor = PROCESS_INFORMATION{};
+    m_main = nullptr;
+    return ended;
+}
+
+HWND DeviceFixture::OpenMenu() {
+    HWND menu = FindWindowW(L"#32768", nullptr);
+    return menu && IsWindowVisible(menu) ? menu : nullptr;
+}
+
+// Taps the right end of the header strip and waits for the page menu.
+HWND DeviceFixture::TapHeader() {
+    RECT client;
+    GetClientRect(m_main, &client);
+    PostMessageW(m_main, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - 4, 4));
+    WaitFor([] { return OpenMenu() != nullptr; });
+    return OpenMenu();
+}
+
+std::vector<std::wstring> DeviceFixture::MainPageNames() {
+    std::vector<std::wstring> names;
+    for (cv2::SettingsPage* page : cv2::CreateMainPages()) {
+        names.push_back(page ? page->GetName() : L"");
+        delete page;
+    }
+    return names;
+}
+
+std::wstring DeviceFixture::ScreenshotName(const std::wstring& prefix, int index,
+                                           const std::wstring& name) {
+    wchar_t number[8];
+    wsprintfW(number, L"-%02d-", index);
+    std::wstring out = prefix + number;
+    for (wchar_t c : name) {
+        if ((c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || (c >= L'0' && c <= L'9'))
+            out += c;
+    }
+    return out;
+}
+
+void DeviceFixture::SelectPage(int index) {
+    HWND menu = TapHeader();
+    ASSERT_TRUE(menu) << "the page menu did not open";
+    for (int i = 0; i <= index; ++i)
+        PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
+    PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
+    ASSERT_TRUE(WaitFor([] { return OpenMenu() == nullptr; })) << "the page menu stayed open";
+    SendMessageW(m_main, WM_NULL, 0, 0); // the selection has been handled once this returns
+}
+
+void DeviceFixture::Apply() { SendMessageW(m_main, WM_COMMAND, MAKEWPARAM(40001, 0), 0); }
+
+void DeviceFixture::Cancel(bool answerYes, bool escape) {
+    if (escape)
+        PostMessageW(m_main, WM_KEYDOWN, VK_ESCAPE, 0);
+    else
+        PostMessageW(m_main, WM_COMMAND, MAKEWPARAM(40002, 0), 0);
+    HWND box = nullptr;
+    ASSERT_TRUE(WaitFor([&] { return (box = FindWindowW(L"#32770", L"Cancel Confirmation")) != nullptr; }))
+        << "no cancel confirmation";
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(answerYes ? IDYES : IDNO, BN_CLICKED), 0);
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(box); }));
+}
+
+int DeviceFixture::CountWindows(const wchar_t* className) {
+    int count = 0;
+    for (HWND w = FindWindowExW(nullptr, nullptr, className, nullptr); w;
+         w = FindWindowExW(nullptr, w, className, nullptr))
+        ++count;
+    return count;
+}
+
+HWND DeviceFixture::VisibleChild(const wchar_t* className, int nth) const {
+    for (HWND w = FindWindowExW(m_main, nullptr, className, nullptr); w;
+         w = FindWindowExW(m_main, w, className, nullptr)) {
+        if (IsWindowVisible(w) && nth-- == 0)
+            return w;
+    }
+    return nullptr;
 }
 
 std::string DeviceFixture::Lines(const std::string& text) {

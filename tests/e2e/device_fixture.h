@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace cv2test {
 
@@ -29,12 +30,50 @@ class DeviceFixture : public ::testing::Test {
     // Runs the program with these arguments and waits for it to exit; returns its exit code.
     DWORD RunEditor(const std::wstring& arguments, DWORD timeoutMs = 30000);
 
+    // Starts the interactive editor and waits for its main window ("CorvaneSettings").
+    HWND StartEditor();
+    // Waits for the editor started by StartEditor to end; false on time-out (it is then killed).
+    bool WaitEditorExit(DWORD timeoutMs = 20000);
+    bool EditorRunning() const;
+    // Opens the page menu with a tap on the header strip and picks item `index` with the keys.
+    void SelectPage(int index);
+    // Taps the right end of the header strip; the page menu window, or null if none opened.
+    HWND TapHeader();
+    // The page menu window while it is open, else null.
+    static HWND OpenMenu();
+    // The names of the main window's pages in menu order, from the same page list the program
+    // uses (the other process's menu cannot be read from here).
+    static std::vector<std::wstring> MainPageNames();
+    // "prefix-NN-name" with the name's letters and digits only, for screenshot files.
+    static std::wstring ScreenshotName(const std::wstring& prefix, int index,
+                                       const std::wstring& name);
+    // Presses the menu bar's Apply (synchronous: config.ini is written when it returns).
+    void Apply();
+    // Presses Cancel (or Escape when `escape`) and answers the confirmation with Yes or No.
+    void Cancel(bool answerYes, bool escape = false);
+    // Top-level windows of a class in this window station.
+    static int CountWindows(const wchar_t* className);
+    // The first visible child of the main window of that class; null if none.
+    HWND VisibleChild(const wchar_t* className, int nth = 0) const;
+
+    // Waits until `condition` holds, up to `timeoutMs`; returns whether it held.
+    template <class F> static bool WaitFor(F condition, DWORD timeoutMs = 10000) {
+        for (DWORD waited = 0; waited < timeoutMs; waited += 20) {
+            if (condition())
+                return true;
+            Sleep(20);
+        }
+        return condition();
+    }
+
     // The text with the platform's line ends.
     static std::string Lines(const std::string& text);
 
     std::wstring m_dir;     // scratch device folder, ends in a backslash
     std::wstring m_logPath; // the test bar's log
     PROCESS_INFORMATION m_bar{};
+    PROCESS_INFORMATION m_editor{};
+    HWND m_main = nullptr; // the editor's main window
 };
 
 } // namespace cv2test

@@ -1,0 +1,199 @@
+#include "app/settings_app.h"
+
+#include "app/about_box.h"
+#include "app/bar_notify.h"
+#include "ids_app.h"
+#include "platform/device_colors.h"
+#include "platform/shell.h"
+#include "store/scale.h"
+#include "store/screen.h"
+#include "ui/shared_fonts.h"
+
+namespace cv2 {
+namespace {
+
+// The editor's cursor, loaded once when the application object is made.
+HCURSOR g_arrowCursor = nullptr;
+
+// The ctl-colour message bound by number: edit controls ask it on the device.
+const UINT kCtlColorButton = 0x135;
+
+} // namespace
+
+SettingsApp::SettingsApp(HINSTANCE instance, const std::wstring& configPath,
+                         const std::vector<SettingsPage*>& pages) {
+    const bool highResolution = IsHighResolution();
+    m_config.Load(configPath);
+    g_arrowCursor = LoadCursorW(nullptr, IDC_ARROW);
+    m_images = ImageList_LoadImageW(
+        instance, MAKEINTRESOURCEW(highResolution ? IDB_MENUBAR_LARGE : IDB_MENUBAR_SMALL),
+        highResolution ? 32 : 16, 1, RGB(255, 0, 255), IMAGE_BITMAP, LR_CREATEDIBSECTION);
+    for (SettingsPage* page : pages)
+        AddPage(page);
+    CreateMainWindow(instance);
+    if (!m_hwnd) {
+        PostQuitMessage(1);
+        return;
+    }
+    CreateMenuBar(instance);
+    SelectPage(0);
+}
+
+SettingsApp::~SettingsApp() {
+    if (m_images)
+        ImageList_Destroy(m_images);
+    if (IsWindow(m_hwnd))
+        DestroyWindow(m_hwnd);
+    DestroySharedFonts();
+    // The page host deletes the pages; the document frees itself.
+}
+
+void SettingsApp::CreateMainWindow(HINSTANCE instance) {
+    WNDCLASSW wc = {};
+    wc.style = CS_VREDRAW | CS_HREDRAW | CS_NOCLOSE;
+    wc.lpfnWndProc = WindowProc;
+    wc.hInstance = instance;
+    wc.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+    wc.hCursor = g_arrowCursor;
+    wc.lpszClassName = kWindowClass;
+    RegisterClassW(&wc);
+
+    RECT wa;
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &wa, 0);
+    CreateWindowExW(0, kWindowClass, Localized(IDS_APP_TITLE), WS_POPUP | WS_VISIBLE, wa.left,
+                    wa.top, wa.right - wa.left, wa.bottom - wa.top - MenuBarHeight(), nullptr,
+                    nullptr, instance, this);
+}
+
+void SettingsApp::CreateMenuBar(HINSTANCE instance) {
+    SHMENUBARINFO mbi = {};
+    mbi.cbSize = sizeof mbi;
+    mbi.hwndParent = m_hwnd;
+    mbi.dwFlags = SHCMBF_HMENU;
+    mbi.nToolBarId = IDM_MAIN_MENUBAR;
+    mbi.hInstRes = instance;
+    if (!SHCreateMenuBar(&mbi)) {
+        PostQuitMessage(1);
+        return;
+    }
+    m_menuBar = mbi.hwndMB;
+    SendMessageW(m_menuBar, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(m_images));
+    TBBUTTON buttons[2] = {};
+    buttons[0].iBitmap = 0;
+    buttons[0].idCommand = IDC_APPLY;
+    buttons[1].iBitmap = 1;
+    buttons[1].idCommand = IDC_CANCEL_EDITS;
+    for (TBBUTTON& b : buttons) {
+        b.fsState = TBSTATE_ENABLED;
+        b.fsStyle = BTNS_BUTTON | BTNS_AUTOSIZE;
+    }
+    SendMessageW(m_menuBar, TB_ADDBUTTONSW, 2, reinterpret_cast<LPARAM>(buttons));
+}
+
+void SettingsApp::Apply() {
+    m_host.SaveAll(nullptr);
+    m_config.Save();
+    NotifyBar(BarWalk::FromFirstChild);
+}
+
+bool SettingsApp::ConfirmCancel() {
+    // The caption is copied first: the next look-up may reuse the same buffer.
+    const std::wstring caption = Localized(IDS_CANCEL_CAPTION);
+    return MessageBoxW(m_hwnd, Localized(IDS_CANCEL_QUESTION), caption.c_str(),
+                       MB_YESNO | MB_ICONQUESTION) == IDYES;
+}
+
+void SettingsApp::OnCreate(HWND hwnd) {
+    SHDoneButton(hwnd, SHDB_SHOW);
+    m_hwnd = hwnd;
+    CreateSharedFonts();
+    m_host.BuildPages(hwnd, &m_config);
+    SetWindowPos(hwnd, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+bool SettingsApp::OnCommand(WPARAM wParam, LPARAM lParam) {
+    switch (LOWORD(wParam)) {
+    case IDC_APPLY:
+    case IDOK:
+        Apply();
+        if (LOWORD(wParam) == IDOK)
+            PostMessageW(m_hwnd, WM_CLOSE, 0, 0);
+        return true;
+    case IDC_CANCEL_EDITS:
+        if (ConfirmCancel())
+            PostMessageW(m_hwnd, WM_CLOSE, 0, 0);
+        return true;
+    case IDC_ABOUT:
+        ShowAboutBox(m_hwnd);
+        return true;
+    default:
+        return m_host.DispatchCommand(wParam, lParam);
+    }
+}
+
+// Enabled edit controls are painted on the window colour; the handler is bound to this message
+// number only, not to the static or edit colour messages.
+LRESULT SettingsApp::OnCtlColorButton(WPARAM wParam, LPARAM lParam) {
+    HWND control = reinterpret_cast<HWND>(lParam);
+    wchar_t className[50] = {};
+    GetClassNameW(control, className, 50);
+    if (lstrcmpiW(className, L"EDIT") == 0 && IsWindowEnabled(control))
+        return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
+    return DeviceDefWindowProc(m_hwnd, kCtlColorButton, wParam, lParam);
+}
+
+LRESULT SettingsApp::HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam) {
+    switch (msg) {
+    case WM_SIZE:
+        m_host.DispatchSize(LOWORD(lParam), HIWORD(lParam));
+        return 0;
+    case WM_ERASEBKGND:
+        return 1; // WM_PAINT covers every pixel from its off-screen bitmap
+    case WM_PAINT:
+        m_host.Paint();
+        return 0;
+    case WM_LBUTTONDOWN:
+        TrackPageMenu(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+        return 0;
+    case WM_KEYDOWN:
+        if (wParam == VK_ESCAPE) {
+            if (ConfirmCancel())
+                PostMessageW(m_hwnd, WM_CLOSE, 0, 0);
+            return 0;
+        }
+        break;
+    case WM_COMMAND:
+        if (OnCommand(wParam, lParam))
+            return 0;
+        break;
+    case WM_NOTIFY:
+        m_host.DispatchNotify(wParam, lParam);
+        break;
+    case kCtlColorButton:
+        return OnCtlColorButton(wParam, lParam);
+    case WM_CLOSE:
+        DestroyWindow(m_hwnd);
+        return 0;
+    case WM_DESTROY:
+        m_host.DestroyAll();
+        PostQuitMessage(0);
+        return 0;
+    }
+    return DeviceDefWindowProc(m_hwnd, msg, wParam, lParam);
+}
+
+LRESULT CALLBACK SettingsApp::WindowProc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam) {
+    if (msg == WM_CREATE) {
+        auto* app = static_cast<SettingsApp*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(app));
+        app->OnCreate(hwnd);
+        return 0;
+    }
+    auto* app = reinterpret_cast<SettingsApp*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+    if (!app || app->m_hwnd != hwnd)
+        return DefWindowProcW(hwnd, msg, wParam, lParam);
+    return app->HandleMessage(msg, wParam, lParam);
+}
+
+} // namespace cv2

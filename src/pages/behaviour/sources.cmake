@@ -1,0 +1,2 @@
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/delay_settings.cpp)
+list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/delays_page.cpp)

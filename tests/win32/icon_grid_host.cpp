@@ -47,16 +47,28 @@ void RegisterHost() {
 }
 
 // One parent for the whole run: hiding or destroying a top-level window costs seconds under
-// Wine on a bare X server, a child costs nothing.
+// Wine on a bare X server (moving it off the screen too), a child costs nothing. Between grid
+// tests the parent waits as one pixel below all other windows, so that it covers nothing that
+// other tests show.
 HWND SharedParent() {
     static HWND parent = nullptr;
     if (!IsWindow(parent)) {
         RegisterHost();
-        parent = CreateWindowExW(WS_EX_TOPMOST, kHostClass, L"grid host", WS_POPUP | WS_VISIBLE, 0,
-                                 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
+        parent = CreateWindowExW(0, kHostClass, L"grid host", WS_POPUP | WS_VISIBLE, 0, 0,
+                                 GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),
                                  nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     }
     return parent;
+}
+
+void BringParent(HWND parent, bool inView) {
+    if (inView) {
+        SetWindowPos(parent, HWND_TOPMOST, 0, 0, GetSystemMetrics(SM_CXSCREEN),
+                     GetSystemMetrics(SM_CYSCREEN), 0);
+        return;
+    }
+    SetWindowPos(parent, HWND_NOTOPMOST, 0, 0, 1, 1, SWP_NOACTIVATE);
+    SetWindowPos(parent, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
 }
 
 } // namespace
@@ -66,6 +78,7 @@ GridHost::GridHost(int width, int height, DWORD gridStyle) {
     cv2::RegisterIconGridClass(GetModuleHandleW(nullptr));
     const int w = cv2::ScaleX(width), h = cv2::ScaleX(height);
     parent = SharedParent();
+    BringParent(parent, true);
     g_host = this;
     grid = CreateWindowExW(0, cv2::kIconGridClass, L"", WS_CHILD | WS_VISIBLE | gridStyle, 0, 0, w,
                            h, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(kGridId)),
@@ -78,6 +91,7 @@ GridHost::~GridHost() {
         DestroyWindow(grid);
     Pump();
     g_host = nullptr;
+    BringParent(parent, false);
 }
 
 LRESULT GridHost::Add(const std::wstring& caption, int picture) const {

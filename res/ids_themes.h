@@ -1,2 +1,8 @@
 // Resource ids of the themes area, at their documented numbers.
 #pragma once
+
+// Controls of the Theme Overrides page (ten times its title's string number and up).
+#define IDC_OVERRIDE_SOUNDS 1610
+#define IDC_OVERRIDE_COLORS 1611
+#define IDC_OVERRIDE_FONTS 1612
+#define IDC_OVERRIDE_FONT_LIST 1613

@@ -2,26 +2,36 @@
 
 #include <new>
 
+#include "pages/behaviour/clock_settings_page.h"
 #include "pages/behaviour/delays_page.h"
+#include "pages/behaviour/general_settings_page.h"
+#include "pages/behaviour/start_menu_settings_page.h"
+#include "themes/overrides_page.h"
 
 namespace cv2 {
 
 // Allocation failure gives a null page instead of an exception.
-template <class Page> SettingsPage* Make() { return new (std::nothrow) Page(); }
+template <class Page> SettingsPage* Make() {
+    return new (std::nothrow) Page();
+}
 
 std::vector<SettingsPage*> CreateMainPages() {
     std::vector<SettingsPage*> pages;
     // "My Theme"
     // "Program Directories"
     // "General Settings"
+    pages.push_back(Make<GeneralSettingsPage>());
     // "Start Menu Settings"
+    pages.push_back(Make<StartMenuSettingsPage>());
     // "Task Management"
     // "SIP Panel"
     // "Clock Settings"
+    pages.push_back(Make<ClockSettingsPage>());
     // "Button Assignments"
     // "Button Order"
     // "Skinned Applications"
     // "Theme Overrides"
+    pages.push_back(Make<ThemeOverridesPage>());
     // "Delays/Timers"
     pages.push_back(Make<DelaysPage>());
     // "Plugins"

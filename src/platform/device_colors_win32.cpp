@@ -13,13 +13,18 @@ COLORREF DeviceSysColor(int index) {
     }
 }
 
+// The desktop's window colour stands in for the device's static colour (see DeviceSysColor).
+HBRUSH DeviceStaticBrush() { return GetSysColorBrush(COLOR_WINDOW); }
+
+HBRUSH DeviceStaticColors(HDC dc) {
+    SetTextColor(dc, DeviceSysColor(COLOR_STATICTEXT));
+    SetBkColor(dc, DeviceSysColor(COLOR_STATIC));
+    return DeviceStaticBrush();
+}
+
 LRESULT DeviceDefWindowProc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam) {
-    if (msg == WM_CTLCOLORSTATIC) {
-        HDC dc = reinterpret_cast<HDC>(wParam);
-        SetTextColor(dc, DeviceSysColor(COLOR_STATICTEXT));
-        SetBkColor(dc, DeviceSysColor(COLOR_STATIC));
-        return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
-    }
+    if (msg == WM_CTLCOLORSTATIC)
+        return reinterpret_cast<LRESULT>(DeviceStaticColors(reinterpret_cast<HDC>(wParam)));
     return DefWindowProcW(hwnd, msg, wParam, lParam);
 }
 

@@ -4,7 +4,8 @@
 //     window it belongs to, like the device's soft-key bar;
 //   - a full-screen dialog fills the work area, and its Done button is the caption's close box,
 //     which reports IDOK;
-//   - the Done button of a top-level window is a request that the desktop has no place to show.
+//   - the Done button of a top-level window is a request that the desktop has no place to show;
+//   - a shortcut is a shell link file made through the desktop shell's link object.
 #pragma once
 
 #include <windows.h>
@@ -51,6 +52,12 @@ HWND SHFindMenuBar(HWND owner);
 constexpr DWORD SHDB_SHOW = 0x0001;
 constexpr DWORD SHDB_HIDE = 0x0002;
 BOOL SHDoneButton(HWND hwnd, DWORD state);
+
+// Shortcut creation. `szTarget` is a command line: the program (in quotes when it holds blanks)
+// followed by its arguments. The device writes it into the link file as it is; on desktop
+// Windows the link file holds the program as its target and the rest as its arguments.
+// False when the file cannot be written; an existing file is replaced.
+BOOL SHCreateShortcut(LPWSTR szShortcut, LPWSTR szTarget);
 
 // Tap-and-hold recognition. Called on pen-down at `ptDown` (client coordinates of hwndClient);
 // returns when the gesture is decided. With SHRG_RETURNCMD the result is GN_CONTEXTMENU for a

@@ -1,6 +1,10 @@
 #include "platform/shell.h"
 
 #include <commctrl.h>
+#include <objbase.h>
+#include <shlobj.h>
+
+#include <string>
 
 #include <algorithm>
 #include <cstdlib>
@@ -108,17 +112,69 @@ void MakeRoomAbove(HWND owner, const RECT& bar) {
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// Splits a command line into the program and the rest: a leading quoted part is the program
+// (without its quotes), else everything up to the first blank.
+void SplitCommandLine(const std::wstring& line, std::wstring& program, std::wstring& arguments) {
+    size_t end;
+    if (!line.empty() && line[0] == L'"') {
+        const size_t close = line.find(L'"', 1);
+        end = close == std::wstring::npos ? line.size() : close + 1;
+        program = line.substr(1, (close == std::wstring::npos ? line.size() : close) - 1);
+    } else {
+        end = line.find(L' ');
+        if (end == std::wstring::npos)
+            end = line.size();
+        program = line.substr(0, end);
+    }
+    const size_t rest = line.find_first_not_of(L' ', end);
+    arguments = rest == std::wstring::npos ? std::wstring() : line.substr(rest);
+}
+
+bool SaveShellLink(const wchar_t* file, const std::wstring& program,
+                   const std::wstring& arguments) {
+    IShellLinkW* link = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                reinterpret_cast<void**>(&link))))
+        return false;
+    IPersistFile* persist = nullptr;
+    bool saved =
+        SUCCEEDED(link->SetPath(program.c_str())) &&
+        SUCCEEDED(link->SetArguments(arguments.c_str())) &&
+        SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&persist)));
+    if (saved) {
+        saved = SUCCEEDED(persist->Save(file, TRUE));
+        persist->Release();
+    }
+    link->Release();
+    return saved;
+}
+
 } // namespace
 
-int MenuBarHeight() { return Scale(26); }
+BOOL SHCreateShortcut(LPWSTR szShortcut, LPWSTR szTarget) {
+    if (!szShortcut || !szTarget || !*szShortcut)
+        return FALSE;
+    std::wstring program, arguments;
+    SplitCommandLine(szTarget, program, arguments);
+    // The link object needs COM on this thread; the editor has it already, other callers may not.
+    const HRESULT com = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    const bool saved = SaveShellLink(szShortcut, program, arguments);
+    if (SUCCEEDED(com))
+        CoUninitialize();
+    return saved ? TRUE : FALSE;
+}
+
+int MenuBarHeight() {
+    return Scale(26);
+}
 
 BOOL SHInitDialog(SHINITDLGINFO* info) {
     if (!info || !IsWindow(info->hDlg) || !(info->dwMask & SHIDIM_FLAGS))
         return FALSE;
     if (info->dwFlags & (SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIZEDLG)) {
         const RECT wa = WorkArea();
-        SetWindowPos(info->hDlg, nullptr, wa.left, wa.top, wa.right - wa.left,
-                     wa.bottom - wa.top, SWP_NOZORDER);
+        SetWindowPos(info->hDlg, nullptr, wa.left, wa.top, wa.right - wa.left, wa.bottom - wa.top,
+                     SWP_NOZORDER);
     }
     if (info->dwFlags & SHIDIF_DONEBUTTON)
         SetWindowSubclass(info->hDlg, DoneButtonProc, kDoneSubclass, 0);
@@ -152,11 +208,11 @@ BOOL SHCreateMenuBar(SHMENUBARINFO* info) {
     }
     SetPropW(container, L"CV2Menu", menu);
     SetPropW(info->hwndParent, kOwnerProp, container);
-    HWND toolbar = CreateWindowExW(
-        0, TOOLBARCLASSNAMEW, L"",
-        WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_LIST | CCS_NORESIZE | CCS_NODIVIDER |
-            CCS_NOPARENTALIGN,
-        0, 0, bar.right - bar.left, bar.bottom - bar.top, container, nullptr, instance, nullptr);
+    HWND toolbar = CreateWindowExW(0, TOOLBARCLASSNAMEW, L"",
+                                   WS_CHILD | WS_VISIBLE | TBSTYLE_FLAT | TBSTYLE_LIST |
+                                       CCS_NORESIZE | CCS_NODIVIDER | CCS_NOPARENTALIGN,
+                                   0, 0, bar.right - bar.left, bar.bottom - bar.top, container,
+                                   nullptr, instance, nullptr);
     SendMessageW(toolbar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
     SendMessageW(toolbar, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);
     if (menu)

@@ -1,10 +1,16 @@
-list(APPEND CV2_CORE_WIN32
-  ${CMAKE_CURRENT_LIST_DIR}/file_access_win32.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/string_module_win32.cpp)
-list(APPEND CV2_CORE_POSIX
-  ${CMAKE_CURRENT_LIST_DIR}/file_access_posix.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/string_module_posix.cpp)
-list(APPEND CV2_WIN_SOURCES
-  ${CMAKE_CURRENT_LIST_DIR}/com_win32.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/device_colors_win32.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/shell_win32.cpp)
+# The platform layer: every *_win32.cpp and *_posix.cpp here. File access and the string
+# module serve the portable core (a Win32 and a POSIX form each); the rest is the device shell
+# layer of the Win32 program.
+set(CV2_PLATFORM_CORE file_access string_module)
+file(GLOB platform_win32 CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/*_win32.cpp)
+file(GLOB platform_posix CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/*_posix.cpp)
+foreach(file IN LISTS platform_win32)
+  get_filename_component(name ${file} NAME)
+  string(REGEX REPLACE "_win32\\.cpp$" "" name ${name})
+  if(name IN_LIST CV2_PLATFORM_CORE)
+    list(APPEND CV2_CORE_WIN32 ${file})
+  else()
+    list(APPEND CV2_WIN_SOURCES ${file})
+  endif()
+endforeach()
+list(APPEND CV2_CORE_POSIX ${platform_posix})

@@ -1,4 +1,5 @@
 list(APPEND CV2_WIN_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/control_layout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dialog_layout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/page_host.cpp
   ${CMAKE_CURRENT_LIST_DIR}/settings_page.cpp
@@ -12,3 +13,4 @@ list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/icon_grid_images.cpp
   ${CMAKE_CURRENT_LIST_DIR}/icon_grid_input.cpp
   ${CMAKE_CURRENT_LIST_DIR}/icon_grid_paint.cpp)
+list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/text_extent.cpp)

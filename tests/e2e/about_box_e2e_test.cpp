@@ -5,6 +5,7 @@
 #include "screen_capture.h"
 #include "version.h"
 
+#include <cstdlib>
 #include <cstring>
 
 namespace cv2test {
@@ -18,6 +19,15 @@ class AboutBoxE2E : public DeviceFixture {
         // Visible only once its initialisation has run.
         WaitFor([&] { return (box = FindWindowW(L"#32770", L"About")) && IsWindowVisible(box); });
         return box;
+    }
+    void CopyLogo() {
+        const char* device = std::getenv("CV2_DEVICE_DIR");
+        std::string from = std::string(device ? device : ".") + "\\logo.png";
+        ASSERT_TRUE(CopyFileW(std::wstring(from.begin(), from.end()).c_str(), File(L"logo.png").c_str(), FALSE));
+    }
+    static HANDLE Picture(HWND dialog) {
+        return reinterpret_cast<HANDLE>(
+            SendMessageW(GetDlgItem(dialog, IDC_ABOUT_LOGO), STM_GETIMAGE, IMAGE_BITMAP, 0));
     }
     static std::wstring Text(HWND dialog, int id) {
         wchar_t text[256] = {};
@@ -42,9 +52,31 @@ TEST_F(AboutBoxE2E, ShowsTheVersionLineAndLegalNoticeFromTheVersionResource) {
     EXPECT_TRUE(EditorRunning());
 }
 
+TEST_F(AboutBoxE2E, WithoutLogoTheDialogStillOpensWithAnEmptyPicture) {
+    ASSERT_TRUE(StartEditor());
+    HWND box = OpenAbout();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(Picture(box), nullptr);
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, 0), 0);
+}
+
+TEST_F(AboutBoxE2E, ShowsTheLogoFromTheProgramFolderAtItsOwnSize) {
+    CopyLogo();
+    ASSERT_TRUE(StartEditor());
+    HWND box = OpenAbout();
+    ASSERT_TRUE(box);
+    EXPECT_NE(Picture(box), nullptr);
+    RECT r;
+    GetClientRect(GetDlgItem(box, IDC_ABOUT_LOGO), &r);
+    EXPECT_EQ(r.right, 120); // the sample logo's size
+    EXPECT_EQ(r.bottom, 48);
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, 0), 0);
+}
+
 class AboutBoxScreens : public AboutBoxE2E {};
 
 TEST_F(AboutBoxScreens, AboutBox) {
+    CopyLogo();
     ASSERT_TRUE(StartEditor());
     HWND box = OpenAbout();
     ASSERT_TRUE(box);

@@ -14,7 +14,14 @@ namespace cv2test {
 
 class AppFixture : public ::testing::Test {
   protected:
-    void TearDown() override { m_app.reset(); }
+    void TearDown() override {
+        m_app.reset();
+        // Closing the main window asks the message loop to end; no loop runs here, so the
+        // request is taken away before it can end a later test's modal dialog.
+        MSG msg;
+        while (PeekMessageW(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
+        }
+    }
 
     // Creates the application object; config.ini gets `configText` first (none when empty).
     cv2::SettingsApp& MakeApp(const std::vector<cv2::SettingsPage*>& pages,

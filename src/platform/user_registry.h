@@ -1,0 +1,18 @@
+// The few values the program keeps in the current user's registry, behind two small calls so the
+// logic that uses them can be tested without a registry.
+#pragma once
+
+namespace cv2 {
+
+// The bar's key under HKEY_CURRENT_USER.
+constexpr wchar_t kBarRegistryKey[] = L"Software\\Thornlea\\Corvane 2";
+
+// Reads a 4-byte value of `key` under HKEY_CURRENT_USER; false when the key or value is missing
+// or is not 4 bytes long.
+bool ReadUserDword(const wchar_t* key, const wchar_t* name, unsigned long& value);
+
+// Writes a REG_DWORD value, creating the key when missing; false when the key cannot be opened
+// or the value cannot be written.
+bool WriteUserDword(const wchar_t* key, const wchar_t* name, unsigned long value);
+
+} // namespace cv2

@@ -1,0 +1,2 @@
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/overrides_values.cpp)
+list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/overrides_page.cpp)

@@ -1,0 +1,69 @@
+#include "ui/control_layout.h"
+
+#include "platform/device_colors.h"
+#include "store/scale.h"
+#include "store/screen.h"
+#include "ui/shared_fonts.h"
+
+namespace cv2 {
+namespace {
+
+int EdgeX(From from, int offset, int clientWidth) {
+    switch (from) {
+    case From::Middle:
+        return clientWidth / 2 + ScaleX(offset);
+    case From::Right:
+        return clientWidth + ScaleX(offset);
+    case From::Left:
+        break;
+    }
+    return ScaleX(offset);
+}
+
+BOOL CALLBACK SetTextFontProc(HWND child, LPARAM) {
+    SetControlFont(child, TextFont());
+    return TRUE;
+}
+
+} // namespace
+
+RECT PlaceRect(const ControlPlace& place, int clientWidth) {
+    RECT r;
+    r.left = EdgeX(place.leftFrom, place.left, clientWidth);
+    r.right = EdgeX(place.rightFrom, place.right, clientWidth);
+    r.top = Scale(place.top);
+    r.bottom = r.top + Scale(place.height);
+    return r;
+}
+
+void PlaceControls(HWND dialog, const ControlPlace* places, size_t count) {
+    RECT client;
+    GetClientRect(dialog, &client);
+    for (size_t i = 0; i < count; ++i) {
+        const RECT r = PlaceRect(places[i], client.right);
+        if (HWND control = GetDlgItem(dialog, places[i].id))
+            MoveWindow(control, r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
+    }
+}
+
+void SetControlTexts(HWND dialog, const ControlText* texts, size_t count) {
+    for (size_t i = 0; i < count; ++i)
+        SetDlgItemTextW(dialog, texts[i].id, Localized(texts[i].text));
+}
+
+void SetDialogFonts(HWND dialog, const int* boldIds, size_t boldCount) {
+    if (TextFont())
+        EnumChildWindows(dialog, SetTextFontProc, 0);
+    if (!CaptionFont())
+        return;
+    for (size_t i = 0; i < boldCount; ++i)
+        SetControlFont(GetDlgItem(dialog, boldIds[i]), CaptionFont());
+}
+
+INT_PTR StaticColors(HDC dc) { return reinterpret_cast<INT_PTR>(DeviceStaticColors(dc)); }
+
+bool UseWideLayout() {
+    return ChooseLayout(ScreenWidth(), ScreenHeight(), true) != DialogLayout::Portrait;
+}
+
+} // namespace cv2

@@ -1,0 +1,31 @@
+// The colour picker: a full-screen dialog with a slider and a number box for each of red, green
+// and blue over a swatch of the resulting colour.
+//
+//   ColorPicker picker;
+//   picker.color = current;
+//   if (picker.Run(parent))
+//       current = picker.color;
+#pragma once
+
+#include <windows.h>
+
+#include "ui/pickers/color_value.h"
+
+namespace cv2 {
+
+class ColorPicker {
+  public:
+    // Fixes the swatch for the screen's density and makes this the open picker.
+    ColorPicker();
+    ~ColorPicker();
+    ColorPicker(const ColorPicker&) = delete;
+    ColorPicker& operator=(const ColorPicker&) = delete;
+
+    // Shows the dialog; true when the user confirmed, `color` then holding the choice.
+    bool Run(HWND parent);
+
+    ColorRef color = 0;
+    RECT preview; // swatch in client pixels
+};
+
+} // namespace cv2

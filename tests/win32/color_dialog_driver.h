@@ -1,0 +1,124 @@
+// Drives the program's modal dialogs from inside their own message loops, and a plain host
+// window to own them. Shared by the colour and font picker tests.
+#pragma once
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "screen_capture.h"
+#include "store/screen.h"
+#include "ui/shared_fonts.h"
+
+namespace cv2test {
+
+// Runs `body` on the next dialog that opens and then ends it with `endWith` (IDOK, IDCANCEL),
+// so that a failed expectation cannot leave a modal loop running. A thread timer does the work:
+// the modal loop dispatches it. The dialog looked for is the enabled one, which is the innermost
+// modal dialog when dialogs are nested.
+class DialogDriver {
+  public:
+    static void OnNextDialog(std::function<void(HWND)> body, int endWith) {
+        Pending().push_back({std::move(body), endWith, 0});
+        Pending().back().timer = SetTimer(nullptr, 0, 30, TimerProc);
+    }
+    // Sends a click of a push button or check box the way the dialog manager reports it.
+    static void Click(HWND dlg, int id) {
+        SendMessageW(dlg, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                     reinterpret_cast<LPARAM>(GetDlgItem(dlg, id)));
+    }
+
+  private:
+    struct Job {
+        std::function<void(HWND)> body;
+        int endWith;
+        UINT_PTR timer;
+    };
+    static std::vector<Job>& Pending() {
+        static std::vector<Job> jobs;
+        return jobs;
+    }
+    static BOOL CALLBACK FindDialog(HWND hwnd, LPARAM found) {
+        wchar_t cls[16] = {};
+        GetClassNameW(hwnd, cls, 16);
+        if (lstrcmpW(cls, L"#32770") == 0 && IsWindowEnabled(hwnd))
+            *reinterpret_cast<HWND*>(found) = hwnd;
+        return TRUE;
+    }
+    static void CALLBACK TimerProc(HWND, UINT, UINT_PTR id, DWORD) {
+        std::vector<Job>& jobs = Pending();
+        for (size_t i = 0; i < jobs.size(); ++i) {
+            if (jobs[i].timer != id)
+                continue;
+            HWND dlg = nullptr;
+            EnumThreadWindows(GetCurrentThreadId(), FindDialog, reinterpret_cast<LPARAM>(&dlg));
+            if (!dlg)
+                return; // not open yet: try again on the next tick
+            KillTimer(nullptr, id);
+            Job job = std::move(jobs[i]);
+            jobs.erase(jobs.begin() + static_cast<std::ptrdiff_t>(i));
+            job.body(dlg);
+            if (IsWindow(dlg))
+                PostMessageW(dlg, WM_COMMAND, MAKEWPARAM(job.endWith, BN_CLICKED), 0);
+            return;
+        }
+    }
+};
+
+// A visible top-level window that owns the dialogs under test, with the shared fonts made as the
+// main window makes them.
+class PickerHostTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        // A main window destroyed by an earlier test leaves its quit request in this thread's
+        // queue; a modal loop would take it and end at once.
+        MSG quit;
+        while (PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
+        }
+        cv2::ReadScreenDensities();
+        cv2::CreateSharedFonts();
+        WNDCLASSW wc = {};
+        wc.lpfnWndProc = DefWindowProcW;
+        wc.hInstance = GetModuleHandleW(nullptr);
+        wc.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
+        wc.lpszClassName = L"PickerTestHost";
+        RegisterClassW(&wc);
+        host = CreateWindowExW(0, L"PickerTestHost", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
+                               0, cv2::ScreenWidth(), cv2::ScreenHeight(), nullptr, nullptr,
+                               wc.hInstance, nullptr);
+        ASSERT_NE(host, nullptr);
+    }
+    void TearDown() override {
+        DestroyWindow(host);
+        cv2::DestroySharedFonts();
+    }
+
+    // Runs `open`, which opens a modal dialog, saves the screen as `name` while the dialog
+    // shows, and cancels it.
+    void ShootDialog(const wchar_t* name, const std::function<void()>& open) {
+        std::wstring shot;
+        bool content = false;
+        DialogDriver::OnNextDialog(
+            [&](HWND dlg) {
+                ShowWindow(dlg, SW_SHOW);
+                UpdateWindow(dlg);
+                shot = SaveScreenshot(name);
+                content = ScreenHasContent();
+            },
+            IDCANCEL);
+        open();
+        EXPECT_TRUE(content);
+        if (!ScreenName().empty()) {
+            EXPECT_FALSE(shot.empty());
+        }
+    }
+
+    HWND host = nullptr;
+};
+
+} // namespace cv2test

@@ -35,10 +35,10 @@ void Repaint(const GridState& s, bool erase) {
 // Thumbnails glow white so captions stay legible over pictures; the list is plain.
 void SetCaptionStyle(GridState& s) {
     if (s.view == 0) {
-        s.font.style |= kCaptionGlow;
+        s.font.style |= kFontGlow;
         s.font.shadowColor = kGlowWhite;
     } else {
-        s.font.style &= ~static_cast<unsigned>(kCaptionGlow);
+        s.font.style &= ~static_cast<uint32_t>(kFontGlow);
     }
 }
 
@@ -47,7 +47,7 @@ LRESULT OnCreate(HWND hwnd) {
     s->hwnd = hwnd;
     s->textColor = GetSysColor(COLOR_WINDOWTEXT);
     s->backColor = GetSysColor(COLOR_WINDOW);
-    CreateCaptionFont(s->font, L"Tahoma", 6, 0, true);
+    s->font.Create(L"Tahoma", 6, 0, true);
     SetCaptionStyle(*s);
     s->images = CreateGridImageList(s->view);
     // The pointer-sized form of the user-data slot: a 64-bit desktop pointer needs it.

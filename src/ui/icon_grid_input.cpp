@@ -31,7 +31,7 @@ int GridRowHeight(const GridState& s) {
     if (s.view == 0)
         return std::max(1, ScaleX(kThumbRow));
     SIZE text = {};
-    MeasureCaption(s.font, L"Wg", &text);
+    s.font.Measure(L"Wg", &text);
     int pictureHeight = 0;
     if (s.images) {
         int cx = 0;

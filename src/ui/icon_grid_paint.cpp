@@ -93,7 +93,8 @@ void DrawItemText(GridState& s, HDC dc, const std::wstring& text, const RECT& r,
     const COLORREF glow = s.font.shadowColor;
     if (selected)
         s.font.shadowColor = kSelectedBottom;
-    DrawCaption(s.font, dc, text.c_str(), r, flags, true);
+    RECT box = r;
+    s.font.Draw(dc, text.c_str(), &box, flags, true);
     s.font.shadowColor = glow;
 }
 
@@ -145,7 +146,7 @@ void DrawThumbnail(GridState& s, HDC dc, const RECT& cell, int index) {
                 cell.top);
     // The glow reaches 2 pixels below the text: keep it off the grid line.
     RECT caption = cell;
-    caption.bottom -= (s.font.style & kCaptionGlow) ? 2 : 0;
+    caption.bottom -= (s.font.style & kFontGlow) ? 2 : 0;
     DrawItemText(s, dc, item.caption, caption, kThumbCaption, item.selected);
 }
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "ui/grid_caption.h"
 #include "ui/icon_grid_layout.h"
+#include "ui/pickers/font_record.h"
 
 namespace cv2 {
 
@@ -37,7 +37,7 @@ struct GridState {
     // When set, moving the current item leaves the selection alone.
     bool selectionDecoupled = false;
     int pressed = -1; // item under the last pen-up while tap-and-hold is on
-    GridCaptionFont font;
+    FontRecord font;  // captions
 
     int Count() const { return static_cast<int>(items.size()); }
     bool Valid(int index) const { return index >= 0 && index < Count(); }

@@ -23,3 +23,6 @@ CV_STRING(IDS_MY_DEVICE, 44, L"My Device")
 // Drawn in a thumbnail cell while the grid's parent prepares the item. It has no number of its
 // own in language modules made for the device, which then show the English text.
 CV_STRING(IDS_GRID_LOADING, 3201, L"Loading...")
+// Titles of the file browser, picking a file or a folder.
+CV_STRING(IDS_BROWSE_FILE_TITLE, 1040, L"Open")
+CV_STRING(IDS_BROWSE_FOLDER_TITLE, 1041, L"Choose Folder")

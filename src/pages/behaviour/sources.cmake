@@ -18,3 +18,6 @@ list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/clock_settings_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/general_outside_stores.cpp
   ${CMAKE_CURRENT_LIST_DIR}/general_settings_page.cpp)
+# Program Directories: its stored values, and the page.
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/program_directories_values.cpp)
+list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/program_directories_page.cpp)

@@ -19,6 +19,14 @@ int ShellIconIndex(const std::wstring& path) {
     return info.iIcon;
 }
 
+int ShellFolderIconIndex() {
+    SHFILEINFOW info = {};
+    if (!SHGetFileInfoW(L"Folder", FILE_ATTRIBUTE_DIRECTORY, &info, sizeof info,
+                        SHGFI_SYSICONINDEX | SHGFI_SMALLICON | SHGFI_USEFILEATTRIBUTES))
+        return 0;
+    return info.iIcon;
+}
+
 void FolderTree::Attach(HWND tree, HIMAGELIST icons) {
     m_tree = tree;
     m_root = nullptr;
@@ -63,9 +71,13 @@ void FolderTree::FillChildren(HTREEITEM item) {
         return;
     }
     const std::wstring folder = PathOf(item);
+    // Sub-folders get the shell's folder icon without the shell looking at each of them: asking
+    // per folder costs more than listing it, and opening a few levels would take a noticeable
+    // moment.
+    const int icon = ShellFolderIconIndex();
     for (const std::wstring& name : ListSubFolders(folder)) {
         const std::wstring path = InFolder(folder, name);
-        HTREEITEM child = Insert(item, name, ShellIconIndex(path));
+        HTREEITEM child = Insert(item, name, icon);
         if (HasSubFolder(path))
             Insert(child, L"", 0);
     }

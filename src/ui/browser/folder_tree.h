@@ -53,5 +53,7 @@ std::wstring TreeItemText(HWND tree, HTREEITEM item);
 
 // The shell icon index of a file or folder in the small system icon list; 0 when unknown.
 int ShellIconIndex(const std::wstring& path);
+// The shell's icon index of a plain folder.
+int ShellFolderIconIndex();
 
 } // namespace cv2

@@ -20,9 +20,8 @@ CV_STRING(IDS_FONT_PICKER_TITLE, 1001, L"Choose Font")
 CV_STRING(IDS_GRAPHICS_FILTER, 8, L"Graphics Files|*.jpg;*.png;*.gif;*.bmp|All Files|*.*")
 CV_STRING(IDS_ALL_FILES_FILTER, 42, L"All Files|*.*")
 CV_STRING(IDS_MY_DEVICE, 44, L"My Device")
-// Drawn in a thumbnail cell while the grid's parent prepares the item. It has no number of its
-// own in language modules made for the device, which then show the English text.
-CV_STRING(IDS_GRID_LOADING, 3201, L"Loading...")
+// Drawn in a thumbnail cell while the grid's parent prepares the item.
+CV_STRING(IDS_GRID_LOADING, 1002, L"Loading...")
 // Titles of the file browser, picking a file or a folder.
 CV_STRING(IDS_BROWSE_FILE_TITLE, 1040, L"Open")
 CV_STRING(IDS_BROWSE_FOLDER_TITLE, 1041, L"Choose Folder")

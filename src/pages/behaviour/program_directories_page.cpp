@@ -5,6 +5,7 @@
 #include "ids_behaviour.h"
 #include "pages/behaviour/program_directories_values.h"
 #include "store/scale.h"
+#include "ui/child_controls.h"
 #include "ui/control_layout.h"
 #include "ui/file_browser.h"
 #include "ui/shared_fonts.h"
@@ -12,8 +13,27 @@
 namespace cv2 {
 namespace {
 
+// In creation order, which is also the tab order.
+const ChildControl kControls[ProgramDirectoriesPage::Count] = {
+    {L"STATIC", SS_LEFT, 0, IDS_START_MENU_PATH, IDC_PROGRAM_START_MENU_LABEL},
+    {L"EDIT", WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL, 0, StringId(0), IDC_PROGRAM_START_MENU_PATH},
+    {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, StringId(0), IDC_PROGRAM_START_MENU_BROWSE},
+    {L"STATIC", SS_LEFT, 0, IDS_THEME_DIRECTORIES, IDC_PROGRAM_THEMES_LABEL},
+    {L"LISTBOX",
+     WS_BORDER | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, 0,
+     StringId(0), IDC_PROGRAM_THEMES_LIST},
+    {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_ADD, IDC_PROGRAM_THEMES_ADD},
+    {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_DELETE, IDC_PROGRAM_THEMES_DELETE},
+};
+
+// Captions and push buttons are bold.
+const ProgramDirectoriesPage::Control kBold[] = {
+    ProgramDirectoriesPage::PathLabel, ProgramDirectoriesPage::Browse,
+    ProgramDirectoriesPage::ListLabel, ProgramDirectoriesPage::Add, ProgramDirectoriesPage::Delete};
+
 // Below the header strip: the start menu path with its browse button, then the caption of the
-// theme folders. The list and its two buttons take the rest, down to the bottom.
+// theme folders; in the order of the Control enumeration. The list and its two buttons take the
+// rest, down to the bottom.
 const ControlPlace kTopPlaces[] = {
     {IDC_PROGRAM_START_MENU_LABEL, From::Left, 4, From::Right, -4, 28, 16},
     {IDC_PROGRAM_START_MENU_PATH, From::Left, 4, From::Right, -34, 45, 21},
@@ -46,78 +66,62 @@ ProgramDirectoriesPage::~ProgramDirectoriesPage() {
     OnDestroy();
 }
 
-HWND ProgramDirectoriesPage::MakeChild(const wchar_t* cls, const wchar_t* text, DWORD style, int id,
-                                       HFONT font) {
-    return CreatePageControl(m_host, cls, text, style, id, font);
-}
-
 void ProgramDirectoriesPage::Create(HWND host) {
     m_host = host;
-    m_pathLabel = MakeChild(L"STATIC", Localized(IDS_START_MENU_PATH), SS_LEFT,
-                            IDC_PROGRAM_START_MENU_LABEL, CaptionFont());
-    m_path = MakeChild(L"EDIT", L"", WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL,
-                       IDC_PROGRAM_START_MENU_PATH, TextFont());
-    const DWORD button = BS_PUSHBUTTON | WS_TABSTOP;
-    m_browse = MakeChild(L"BUTTON", L"...", button, IDC_PROGRAM_START_MENU_BROWSE, CaptionFont());
-    m_listLabel = MakeChild(L"STATIC", Localized(IDS_THEME_DIRECTORIES), SS_LEFT,
-                            IDC_PROGRAM_THEMES_LABEL, CaptionFont());
-    m_list = MakeChild(L"LISTBOX", L"",
-                       WS_BORDER | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP | LBS_NOTIFY |
-                           LBS_NOINTEGRALHEIGHT,
-                       IDC_PROGRAM_THEMES_LIST, TextFont());
-    m_add = MakeChild(L"BUTTON", Localized(IDS_ADD), button, IDC_PROGRAM_THEMES_ADD, CaptionFont());
-    m_delete = MakeChild(L"BUTTON", Localized(IDS_DELETE), button, IDC_PROGRAM_THEMES_DELETE,
-                         CaptionFont());
-    EnableWindow(m_delete, FALSE);
+    CreateChildControls(host, kControls, Count, m_controls);
+    SetWindowTextW(m_controls[Browse], L"...");
+    for (Control c : kBold)
+        SetControlFont(m_controls[c], CaptionFont());
+    EnableWindow(m_controls[Delete], FALSE);
     RECT client;
     GetClientRect(host, &client);
     OnSize(client);
 }
 
 void ProgramDirectoriesPage::Show(bool visible) {
-    const HWND controls[] = {m_pathLabel, m_path, m_browse, m_listLabel, m_list, m_add, m_delete};
-    ShowWindows(controls, sizeof controls / sizeof controls[0], visible);
+    ShowWindows(m_controls, Count, visible);
 }
 
 void ProgramDirectoriesPage::OnSize(const RECT& client) {
+    if (!m_controls[Path])
+        return;
     const int width = client.right - client.left;
-    // In the order of kTopPlaces.
-    const HWND top[] = {m_pathLabel, m_path, m_browse, m_listLabel};
-    for (size_t i = 0; i < sizeof top / sizeof top[0]; ++i) {
+    for (int i = 0; i < static_cast<int>(sizeof kTopPlaces / sizeof kTopPlaces[0]); ++i) {
         const RECT r = PlaceRect(kTopPlaces[i], width);
-        MoveWindow(top[i], r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
+        MoveWindow(m_controls[i], r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
     }
     const int margin = ScaleX(4);
     const int buttonTop = client.bottom - Scale(4) - Scale(kButtonHeight);
     const int listTop = Scale(kListTop);
     const int listBottom = buttonTop - Scale(4);
-    MoveWindow(m_list, margin, listTop, width - 2 * margin,
+    MoveWindow(m_controls[List], margin, listTop, width - 2 * margin,
                listBottom > listTop ? listBottom - listTop : 0, TRUE);
     const int buttonWidth = (width - 3 * margin) / 2;
-    MoveWindow(m_add, margin, buttonTop, buttonWidth, Scale(kButtonHeight), TRUE);
-    MoveWindow(m_delete, 2 * margin + buttonWidth, buttonTop, buttonWidth, Scale(kButtonHeight),
-               TRUE);
+    MoveWindow(m_controls[Add], margin, buttonTop, buttonWidth, Scale(kButtonHeight), TRUE);
+    MoveWindow(m_controls[Delete], 2 * margin + buttonWidth, buttonTop, buttonWidth,
+               Scale(kButtonHeight), TRUE);
 }
 
 void ProgramDirectoriesPage::Load(IniDocument* doc) {
     SettingsPage::Load(doc);
-    if (!doc)
+    if (!doc || !m_controls[Path])
         return;
     const std::wstring defaultPath = DefaultStartMenuPath(ProgramsFolder());
-    SetWindowTextW(m_path, LoadStartMenuPath(*doc, defaultPath).c_str());
-    SendMessageW(m_list, LB_RESETCONTENT, 0, 0);
+    SetWindowTextW(m_controls[Path], LoadStartMenuPath(*doc, defaultPath).c_str());
+    SendMessageW(m_controls[List], LB_RESETCONTENT, 0, 0);
     for (const std::wstring& folder : LoadThemeDirectories(*doc))
-        SendMessageW(m_list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(folder.c_str()));
+        SendMessageW(m_controls[List], LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(folder.c_str()));
     UpdateDelete();
 }
 
 std::vector<std::wstring> ProgramDirectoriesPage::Folders() const {
     std::vector<std::wstring> folders;
-    const LRESULT count = SendMessageW(m_list, LB_GETCOUNT, 0, 0);
+    HWND list = m_controls[List];
+    const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
     for (LRESULT i = 0; i < count; ++i) {
-        const LRESULT length = SendMessageW(m_list, LB_GETTEXTLEN, static_cast<WPARAM>(i), 0);
+        const LRESULT length = SendMessageW(list, LB_GETTEXTLEN, static_cast<WPARAM>(i), 0);
         std::wstring text(static_cast<size_t>(length > 0 ? length : 0) + 1, L'\0');
-        const LRESULT got = SendMessageW(m_list, LB_GETTEXT, static_cast<WPARAM>(i),
+        const LRESULT got = SendMessageW(list, LB_GETTEXT, static_cast<WPARAM>(i),
                                          reinterpret_cast<LPARAM>(&text[0]));
         text.resize(got > 0 ? static_cast<size_t>(got) : 0);
         folders.push_back(text);
@@ -126,10 +130,10 @@ std::vector<std::wstring> ProgramDirectoriesPage::Folders() const {
 }
 
 void ProgramDirectoriesPage::Save(IniDocument* target) {
-    if (!target && !m_doc)
+    if ((!target && !m_doc) || !m_controls[Path])
         return;
     IniDocument& doc = SaveTarget(target);
-    SaveStartMenuPath(doc, WindowText(m_path));
+    SaveStartMenuPath(doc, WindowText(m_controls[Path]));
     SaveThemeDirectories(doc, Folders());
     UpdateDelete();
     if (m_reloadThemes)
@@ -137,9 +141,7 @@ void ProgramDirectoriesPage::Save(IniDocument* target) {
 }
 
 void ProgramDirectoriesPage::OnDestroy() {
-    HWND* const controls[] = {&m_pathLabel, &m_path, &m_browse, &m_listLabel,
-                              &m_list,      &m_add,  &m_delete};
-    DestroyWindows(controls, sizeof controls / sizeof controls[0]);
+    DestroyWindows(m_controls, Count);
 }
 
 // Other pages share the host window and may use the same ids: only this page's own controls
@@ -149,18 +151,20 @@ bool ProgramDirectoriesPage::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (!from)
         return false;
     const WORD code = HIWORD(wParam);
-    if (from == m_list) {
+    if (from == m_controls[List]) {
         if (code == LBN_SELCHANGE)
             UpdateDelete();
         return true;
     }
-    if (from != m_browse && from != m_add && from != m_delete)
-        return from == m_path;
+    if (from == m_controls[Path])
+        return true;
+    if (from != m_controls[Browse] && from != m_controls[Add] && from != m_controls[Delete])
+        return false;
     if (code != BN_CLICKED)
         return true;
-    if (from == m_browse)
+    if (from == m_controls[Browse])
         BrowseStartMenu();
-    else if (from == m_add)
+    else if (from == m_controls[Add])
         AddFolder();
     else
         DeleteFolder();
@@ -181,24 +185,24 @@ bool ProgramDirectoriesPage::PickFolder(std::wstring& folder) const {
 void ProgramDirectoriesPage::BrowseStartMenu() {
     std::wstring folder;
     if (PickFolder(folder))
-        SetWindowTextW(m_path, folder.c_str());
+        SetWindowTextW(m_controls[Path], folder.c_str());
 }
 
 void ProgramDirectoriesPage::AddFolder() {
     std::wstring folder;
     if (PickFolder(folder))
-        SendMessageW(m_list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(folder.c_str()));
+        SendMessageW(m_controls[List], LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(folder.c_str()));
 }
 
 void ProgramDirectoriesPage::DeleteFolder() {
-    const LRESULT selected = SendMessageW(m_list, LB_GETCURSEL, 0, 0);
+    const LRESULT selected = SendMessageW(m_controls[List], LB_GETCURSEL, 0, 0);
     if (selected >= 0)
-        SendMessageW(m_list, LB_DELETESTRING, static_cast<WPARAM>(selected), 0);
+        SendMessageW(m_controls[List], LB_DELETESTRING, static_cast<WPARAM>(selected), 0);
     UpdateDelete();
 }
 
 void ProgramDirectoriesPage::UpdateDelete() {
-    EnableWindow(m_delete, SendMessageW(m_list, LB_GETCURSEL, 0, 0) >= 0);
+    EnableWindow(m_controls[Delete], SendMessageW(m_controls[List], LB_GETCURSEL, 0, 0) >= 0);
 }
 
 } // namespace cv2

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ui/settings_page.h"
@@ -32,8 +33,10 @@ class ProgramDirectoriesPage : public SettingsPage {
     // The folders in the list, top to bottom.
     std::vector<std::wstring> Folders() const;
 
+    enum Control { PathLabel, Path, Browse, ListLabel, List, Add, Delete, Count };
+    HWND Window(Control c) const { return m_controls[c]; }
+
   private:
-    HWND MakeChild(const wchar_t* cls, const wchar_t* text, DWORD style, int id, HFONT font);
     // Opens the file browser to pick a folder; false when it was cancelled.
     bool PickFolder(std::wstring& folder) const;
     void BrowseStartMenu();
@@ -43,13 +46,7 @@ class ProgramDirectoriesPage : public SettingsPage {
 
     std::function<void()> m_reloadThemes;
     HWND m_host = nullptr;
-    HWND m_pathLabel = nullptr;
-    HWND m_path = nullptr;
-    HWND m_browse = nullptr;
-    HWND m_listLabel = nullptr;
-    HWND m_list = nullptr;
-    HWND m_add = nullptr;
-    HWND m_delete = nullptr;
+    HWND m_controls[Count] = {};
 };
 
 } // namespace cv2

@@ -89,3 +89,12 @@ TEST(FileBrowser, SquareScreenUsesTemplate103WhateverTheOrientation) {
     EXPECT_EQ(BrowserTemplateFor(320, 240), IDD_FILE_BROWSER_WIDE);
     EXPECT_EQ(BrowserTemplateFor(640, 480), IDD_FILE_BROWSER_WIDE);
 }
+
+TEST(FileBrowserPaths, PicturesAreKnownByTheirExtensionWithoutRegardToCase) {
+    for (const wchar_t* name : {L"C:\\a\\sky.BMP", L"x.jpg", L"x.JPEG", L"x.png", L"x.Gif",
+                                L"C:\\icons\\app.ico", L"skin.tga"})
+        EXPECT_TRUE(IsPictureName(name)) << ::testing::PrintToString(std::wstring(name));
+    for (const wchar_t* name : {L"C:\\a\\notes.txt", L"setup.exe", L"C:\\a.bmp\\readme", L"bmp",
+                                L"C:\\pictures.png\\", L"x.bmp.zip"})
+        EXPECT_FALSE(IsPictureName(name)) << ::testing::PrintToString(std::wstring(name));
+}

@@ -437,3 +437,20 @@ TEST_F(FileBrowserTest, OpensTheTemplateOfTheScreensShape) {
         EXPECT_EQ(browser.TemplateUsed(), IDD_FILE_BROWSER_SQUARE);
     }
 }
+
+TEST_F(FileBrowserTest, ImageModeMakesThumbnailsOfPicturesOnly) {
+    WritePictures(m_dir, 2);
+    m_dir.Write(L"a notes.txt", "not a picture");
+    m_dir.Write(L"broken.bmp", "not a picture either");
+    FileBrowser browser(true, false);
+    browser.SetFilter(L"All Files|*.*", false, nullptr);
+    browser.startFolder = Bare(m_dir.Path());
+    int pictures = -1;
+    EXPECT_FALSE(Run(browser, {[&](HWND dialog) {
+                         LetItPaint(dialog);
+                         pictures = GridPictureCount(dialog);
+                         PressItem(dialog, IDCANCEL);
+                     }}));
+    EXPECT_EQ(browser.files.size(), 4u);
+    EXPECT_EQ(pictures, 2);
+}

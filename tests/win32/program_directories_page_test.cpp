@@ -192,3 +192,12 @@ TEST_F(ProgramDirectoriesPageTest, SaveIntoAnotherDocumentLeavesTheBoundOneAlone
     EXPECT_EQ(LoadThemeDirectories(other), (Texts{L"\\A"}));
     EXPECT_EQ(Plain(m_doc), "[Theme Directories]\n1=\\A\n\n");
 }
+
+TEST_F(ProgramDirectoriesPageTest, ControlsLieApartInsideTheWindow) {
+    Open("[Theme Directories]\n1=\\Storage Card\\Themes\n");
+    ExpectLaidOutApart(m_host.Window());
+    RECT list, add;
+    GetWindowRect(Control(IDC_PROGRAM_THEMES_LIST), &list);
+    GetWindowRect(Control(IDC_PROGRAM_THEMES_ADD), &add);
+    EXPECT_GT(list.bottom - list.top, add.bottom - add.top) << "the list has room for folders";
+}

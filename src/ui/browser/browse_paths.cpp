@@ -80,6 +80,20 @@ std::wstring RememberedFolderOf(const std::wstring& path) {
     return CutToBuffer(folder, kMaxPath + 1);
 }
 
+bool IsPictureName(const std::wstring& path) {
+    static const wchar_t* const kExtensions[] = {L".bmp", L".dib", L".jpg", L".jpeg", L".jpe",
+                                                 L".png", L".gif", L".ico", L".tga"};
+    const size_t dot = path.find_last_of(L".\\");
+    if (dot == std::wstring::npos || path[dot] != L'.')
+        return false;
+    const std::wstring extension = path.substr(dot);
+    for (const wchar_t* known : kExtensions) {
+        if (EqualsNoCase(extension.c_str(), known))
+            return true;
+    }
+    return false;
+}
+
 bool LessNoCase(const std::wstring& a, const std::wstring& b) {
     return std::lexicographical_compare(
         a.begin(), a.end(), b.begin(), b.end(),

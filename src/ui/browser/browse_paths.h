@@ -37,6 +37,11 @@ std::wstring InFolder(const std::wstring& folder, const std::wstring& name);
 // most 260 characters. A path without a backslash gives an empty text.
 std::wstring RememberedFolderOf(const std::wstring& path);
 
+// True when the file name ends in the extension of a picture the program can read (BMP, JPEG,
+// PNG, GIF, icon, Targa), compared without regard to case. Other files get no thumbnail: they
+// are not read at all, however large they are.
+bool IsPictureName(const std::wstring& path);
+
 // True when `a` sorts before `b` comparing letters without regard to case.
 bool LessNoCase(const std::wstring& a, const std::wstring& b);
 // Sorts paths by name without regard to case (ties keep their order).

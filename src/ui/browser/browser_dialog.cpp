@@ -169,6 +169,8 @@ void OnNeedItem(Session& s, WPARAM index, GridItemDesc* desc) {
         desc->picture = info.iIcon;
         return;
     }
+    if (!IsPictureName(path))
+        return;
     LoadedImage picture = LoadThumbnail(path, s.thumbSide, s.gridBack);
     if (!picture.IsEmpty())
         desc->picture = static_cast<int32_t>(

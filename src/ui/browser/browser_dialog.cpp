@@ -152,21 +152,27 @@ bool OnInit(HWND dialog, Session& s) {
     return true;
 }
 
+// The shell's display name of a file. The shell derives it from the name alone: asked to look at
+// the file itself, it takes a time that grows with the size of the folder.
+void ShellDisplayName(const std::wstring& path, wchar_t (&caption)[256]) {
+    SHFILEINFOW info = {};
+    if (SHGetFileInfoW(path.c_str(), FILE_ATTRIBUTE_NORMAL, &info, sizeof info,
+                       SHGFI_DISPLAYNAME | SHGFI_USEFILEATTRIBUTES) &&
+        info.szDisplayName[0])
+        lstrcpynW(caption, info.szDisplayName, 256);
+    else
+        lstrcpynW(caption, path.c_str() + path.find_last_of(L'\\') + 1, 256);
+}
+
 // The grid's on-demand request: file N's display name and its picture or icon.
 void OnNeedItem(Session& s, WPARAM index, GridItemDesc* desc) {
     if (!desc || index >= s.browser.files.size())
         return;
     const std::wstring& path = s.browser.files[index];
-    SHFILEINFOW info = {};
-    UINT flags = SHGFI_DISPLAYNAME;
-    if (!s.browser.imageMode)
-        flags |= SHGFI_SYSICONINDEX | SHGFI_SMALLICON;
-    if (SHGetFileInfoW(path.c_str(), 0, &info, sizeof info, flags))
-        lstrcpynW(desc->caption, info.szDisplayName, 256);
-    else
-        lstrcpynW(desc->caption, path.c_str() + path.find_last_of(L'\\') + 1, 256);
+    ShellDisplayName(path, desc->caption);
     if (!s.browser.imageMode) {
-        desc->picture = info.iIcon;
+        // The file's own icon (programs and shortcuts have theirs), so the shell looks at it.
+        desc->picture = ShellIconIndex(path);
         return;
     }
     if (!IsPictureName(path))

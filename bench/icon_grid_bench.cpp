@@ -15,11 +15,14 @@
 #include <functional>
 #include <vector>
 
+#include "bench_timing.h"
 #include "store/scale.h"
 #include "store/screen.h"
 #include "ui/icon_grid.h"
 
 using namespace cv2;
+using cv2bench::Median;
+using cv2bench::Now;
 
 namespace {
 
@@ -63,15 +66,6 @@ HBITMAP Picture(int seed) {
     DeleteDC(mem);
     ReleaseDC(nullptr, screen);
     return bitmap;
-}
-
-double Now() {
-    static LARGE_INTEGER frequency = {};
-    if (!frequency.QuadPart)
-        QueryPerformanceFrequency(&frequency);
-    LARGE_INTEGER t;
-    QueryPerformanceCounter(&t);
-    return static_cast<double>(t.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
 // Microseconds per step of `steps` steps run by `work`.
@@ -144,11 +138,6 @@ Sample Measure(HWND parent, int view, int count) {
     });
     DestroyWindow(grid);
     return s;
-}
-
-double Median(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
 }
 
 // Rounds interleave the counts, so that a busy moment of the machine hits all of them alike.

@@ -22,3 +22,6 @@ CV_STRING(IDS_ALL_FILES_FILTER, 42, L"All Files|*.*")
 CV_STRING(IDS_MY_DEVICE, 44, L"My Device")
 // Drawn in a thumbnail cell while the grid's parent prepares the item.
 CV_STRING(IDS_GRID_LOADING, 1002, L"Loading...")
+// Titles of the file browser, picking a file or a folder.
+CV_STRING(IDS_BROWSE_FILE_TITLE, 1040, L"Open")
+CV_STRING(IDS_BROWSE_FOLDER_TITLE, 1041, L"Choose Folder")

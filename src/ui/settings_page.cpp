@@ -35,4 +35,12 @@ void ShowWindows(HWND const* windows, size_t count, bool visible) {
     }
 }
 
+void DestroyWindows(HWND* windows, size_t count) {
+    for (size_t i = 0; i < count; ++i) {
+        if (windows[i] && IsWindow(windows[i]))
+            DestroyWindow(windows[i]);
+        windows[i] = nullptr;
+    }
+}
+
 } // namespace cv2

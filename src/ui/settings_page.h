@@ -55,5 +55,7 @@ class SettingsPage {
 
 // Shows or hides a set of child windows (the usual body of Show).
 void ShowWindows(HWND const* windows, size_t count, bool visible);
+// Destroys a set of child windows and clears their handles (the usual body of OnDestroy).
+void DestroyWindows(HWND* windows, size_t count);
 
 } // namespace cv2

@@ -237,6 +237,23 @@ HWND DeviceFixture::VisibleChild(const wchar_t* className, int nth) const {
     return nullptr;
 }
 
+HWND DeviceFixture::ShownControl(int id) const {
+    for (HWND w = GetWindow(m_main, GW_CHILD); w; w = GetWindow(w, GW_HWNDNEXT)) {
+        if (GetDlgCtrlID(w) == id && IsWindowVisible(w))
+            return w;
+    }
+    return nullptr;
+}
+
+std::string DeviceFixture::SectionText(const std::string& name) const {
+    const std::string text = ReadText(L"config.ini");
+    const size_t start = text.find("[" + name + "]\r\n");
+    if (start == std::string::npos)
+        return "<missing>";
+    const size_t end = text.find("\r\n\r\n", start);
+    return text.substr(start, end == std::string::npos ? std::string::npos : end + 4 - start);
+}
+
 std::string DeviceFixture::Lines(const std::string& text) {
     std::string out;
     for (char c : text) {

@@ -55,6 +55,11 @@ class DeviceFixture : public ::testing::Test {
     static int CountWindows(const wchar_t* className);
     // The first visible child of the main window of that class; null if none.
     HWND VisibleChild(const wchar_t* className, int nth = 0) const;
+    // The shown page's control of that id (hidden pages may have controls of the same id).
+    HWND ShownControl(int id) const;
+    // The lines of one section of config.ini as written, from its header to the blank line
+    // after it; "<missing>" when there is no such section.
+    std::string SectionText(const std::string& name) const;
 
     // Waits until `condition` holds, up to `timeoutMs`; returns whether it held.
     template <class F> static bool WaitFor(F condition, DWORD timeoutMs = 10000) {

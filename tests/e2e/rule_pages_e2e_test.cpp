@@ -21,14 +21,7 @@ class RulePagesE2E : public DeviceFixture {
         SelectPage(static_cast<int>(at - names.begin()));
     }
 
-    // The shown page's control of that id (hidden pages have controls of the same ids).
-    HWND Control(int id) const {
-        for (HWND w = GetWindow(m_main, GW_CHILD); w; w = GetWindow(w, GW_HWNDNEXT)) {
-            if (GetDlgCtrlID(w) == id && IsWindowVisible(w))
-                return w;
-        }
-        return nullptr;
-    }
+    HWND Control(int id) const { return ShownControl(id); }
 
     std::vector<std::wstring> ListTexts() const {
         HWND list = Control(IDC_RULE_LIST);
@@ -77,15 +70,7 @@ class RulePagesE2E : public DeviceFixture {
         SendMessageW(m_main, WM_NULL, 0, 0);
     }
 
-    // The lines of one section as written, from its header to the blank line after it.
-    std::string Section(const std::string& name) const {
-        const std::string text = ReadText(L"config.ini");
-        const size_t start = text.find("[" + name + "]\r\n");
-        if (start == std::string::npos)
-            return "<missing>";
-        const size_t end = text.find("\r\n\r\n", start);
-        return text.substr(start, end == std::string::npos ? std::string::npos : end + 4 - start);
-    }
+    std::string Section(const std::string& name) const { return SectionText(name); }
 };
 
 } // namespace

@@ -91,6 +91,9 @@ ensure_prefix() {
     # spend two seconds on every window it hides or destroys).
     "$WINE" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1
     WINEPREFIX="$CV2_WINEPREFIX" "$WINESERVER" -w
+    # This Wine build does not find its own fonts (Tahoma, and Marlett for the caption buttons)
+    # where the package puts them; the prefix gets copies.
+    cp /usr/share/wine/fonts/*.ttf "$CV2_WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null || true
 }
 
 # Sets the screen density Wine reports (takes effect for programs started afterwards).

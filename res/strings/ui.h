@@ -20,6 +20,8 @@ CV_STRING(IDS_FONT_PICKER_TITLE, 1001, L"Choose Font")
 CV_STRING(IDS_GRAPHICS_FILTER, 8, L"Graphics Files|*.jpg;*.png;*.gif;*.bmp|All Files|*.*")
 CV_STRING(IDS_ALL_FILES_FILTER, 42, L"All Files|*.*")
 CV_STRING(IDS_MY_DEVICE, 44, L"My Device")
+// Drawn in a thumbnail cell while the grid's parent prepares the item.
+CV_STRING(IDS_GRID_LOADING, 1002, L"Loading...")
 // Background settings dialog and button images dialog.
 CV_STRING(IDS_CHANGE, 10, L"Change")
 CV_STRING(IDS_FONT_BUTTON, 12, L"Font")

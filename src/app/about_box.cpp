@@ -21,14 +21,14 @@ const DialogTemplates kAboutTemplates = {IDD_ABOUT_PORTRAIT, IDD_ABOUT_LANDSCAPE
 const ControlPlace kPortraitPlaces[] = {
     {IDC_ABOUT_LOGO, From::Left, 6, From::Right, -6, 4, 52},
     {IDC_ABOUT_TITLE, From::Left, 6, From::Right, -6, 60, 14},
-    {IDC_ABOUT_VERSION, From::Left, 6, From::Right, -6, 76, 28},
-    {IDC_ABOUT_VERSION2, From::Left, 6, From::Right, -6, 76, 28},
-    {IDC_ABOUT_LEGAL, From::Left, 6, From::Right, -6, 104, 28},
-    {IDC_ABOUT_HOME_LABEL, From::Left, 6, From::Left, 78, 136, 14},
-    {IDC_ABOUT_HOME, From::Left, 80, From::Right, -4, 136, 14},
-    {IDC_ABOUT_SUPPORT_LABEL, From::Left, 6, From::Left, 78, 152, 14},
-    {IDC_ABOUT_SUPPORT, From::Left, 80, From::Right, -4, 152, 14},
-    {IDC_ABOUT_CREDITS, From::Left, 6, From::Right, -6, 174, 60},
+    {IDC_ABOUT_VERSION, From::Left, 6, From::Right, -6, 75, 14},
+    {IDC_ABOUT_VERSION2, From::Left, 6, From::Right, -6, 75, 14},
+    {IDC_ABOUT_LEGAL, From::Left, 6, From::Right, -6, 91, 28},
+    {IDC_ABOUT_HOME_LABEL, From::Left, 6, From::Left, 78, 122, 14},
+    {IDC_ABOUT_HOME, From::Left, 80, From::Right, -4, 122, 14},
+    {IDC_ABOUT_SUPPORT_LABEL, From::Left, 6, From::Left, 78, 137, 14},
+    {IDC_ABOUT_SUPPORT, From::Left, 80, From::Right, -4, 137, 14},
+    {IDC_ABOUT_CREDITS, From::Left, 6, From::Right, -6, 156, 60},
 };
 const ControlPlace kLandscapePlaces[] = {
     {IDC_ABOUT_LOGO, From::Left, 6, From::Left, 126, 4, 52},

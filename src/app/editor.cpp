@@ -7,6 +7,7 @@
 #include "app/settings_app.h"
 #include "platform/com.h"
 #include "store/screen.h"
+#include "ui/icon_grid.h"
 
 namespace cv2 {
 namespace {
@@ -31,6 +32,7 @@ int RunEditor(HINSTANCE instance) {
     }
     ReadScreenDensities();
     InitializeCom();
+    RegisterIconGridClass(instance);
     {
         SettingsApp app(instance, ExeFolder() + L"config.ini", CreateMainPages());
         SetForegroundWindow(app.Window());

@@ -59,6 +59,25 @@ BOOL SHDoneButton(HWND hwnd, DWORD state);
 // False when the file cannot be written; an existing file is replaced.
 BOOL SHCreateShortcut(LPWSTR szShortcut, LPWSTR szTarget);
 
+// Tap-and-hold recognition. Called on pen-down at `ptDown` (client coordinates of hwndClient);
+// returns when the gesture is decided. With SHRG_RETURNCMD the result is GN_CONTEXTMENU for a
+// hold and 0 otherwise; the pen-up of a plain tap stays queued for the window. On the desktop a
+// hold is the left button kept down, without moving further than the drag distance, for the
+// system's double-click time (twice that with SHRG_LONGDELAY); without SHRG_RETURNCMD the device
+// would tell the window itself, which the desktop does not do: the result is then 0.
+constexpr DWORD SHRG_RETURNCMD = 0x0001;
+constexpr DWORD SHRG_NOTIFYPARENT = 0x0002;
+constexpr DWORD SHRG_LONGDELAY = 0x0008;
+constexpr DWORD GN_CONTEXTMENU = 1000;
+
+struct SHRGINFO {
+    DWORD cbSize;
+    HWND hwndClient;
+    POINT ptDown;
+    DWORD dwFlags;
+};
+DWORD SHRecognizeGesture(SHRGINFO* info);
+
 // Height of the menu bar in pixels on this screen.
 int MenuBarHeight();
 

@@ -6,6 +6,9 @@
 
 #include <string>
 
+#include <algorithm>
+#include <cstdlib>
+
 #include "store/scale.h"
 
 namespace cv2 {
@@ -224,6 +227,47 @@ HWND SHFindMenuBar(HWND owner) {
         return nullptr;
     HWND container = static_cast<HWND>(GetPropW(owner, kOwnerProp));
     return IsWindow(container) ? GetWindow(container, GW_CHILD) : nullptr;
+}
+
+DWORD SHRecognizeGesture(SHRGINFO* info) {
+    if (!info || !IsWindow(info->hwndClient) || !(info->dwFlags & SHRG_RETURNCMD))
+        return 0;
+    HWND hwnd = info->hwndClient;
+    const DWORD hold = GetDoubleClickTime() * ((info->dwFlags & SHRG_LONGDELAY) ? 2 : 1);
+    const int slackX = GetSystemMetrics(SM_CXDRAG), slackY = GetSystemMetrics(SM_CYDRAG);
+    // The pen is captured on the device; here the mouse is, so a release anywhere is seen.
+    const bool capture = GetCapture() != hwnd;
+    if (capture)
+        SetCapture(hwnd);
+    const DWORD start = GetTickCount();
+    DWORD result = GN_CONTEXTMENU;
+    for (;;) {
+        MSG msg;
+        if (PeekMessageW(&msg, hwnd, WM_MOUSEFIRST, WM_MOUSELAST, PM_NOREMOVE)) {
+            // A release or another button ends the press as a tap; the message stays queued.
+            if (msg.message != WM_MOUSEMOVE) {
+                result = 0;
+                break;
+            }
+            PeekMessageW(&msg, hwnd, WM_MOUSEMOVE, WM_MOUSEMOVE, PM_REMOVE);
+            const int x = static_cast<short>(LOWORD(msg.lParam));
+            const int y = static_cast<short>(HIWORD(msg.lParam));
+            if (abs(x - info->ptDown.x) > slackX || abs(y - info->ptDown.y) > slackY) {
+                result = 0;
+                break;
+            }
+            continue;
+        }
+        const DWORD elapsed = GetTickCount() - start;
+        if (elapsed >= hold)
+            break;
+        // Short waits: a posted pen-up does not always wake a wait for input.
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, std::min<DWORD>(hold - elapsed, 20),
+                                  QS_MOUSE | QS_POSTMESSAGE);
+    }
+    if (capture && GetCapture() == hwnd)
+        ReleaseCapture();
+    return result;
 }
 
 BOOL SHDoneButton(HWND hwnd, DWORD state) {

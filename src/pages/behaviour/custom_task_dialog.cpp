@@ -3,7 +3,7 @@
 #include <string>
 
 #include "ids_behaviour.h"
-#include "pages/behaviour/full_screen_dialog.h"
+#include "ui/full_screen_dialog.h"
 #include "pages/behaviour/task_picker_dialog.h"
 
 namespace cv2 {

@@ -1,20 +1,19 @@
-list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/delay_settings.cpp)
-list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/delays_page.cpp)
 list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/check_list_rows.cpp
   ${CMAKE_CURRENT_LIST_DIR}/clock_values.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/delay_settings.cpp
   ${CMAKE_CURRENT_LIST_DIR}/general_startup.cpp
   ${CMAKE_CURRENT_LIST_DIR}/rule_format.cpp
   ${CMAKE_CURRENT_LIST_DIR}/rule_list.cpp
   ${CMAKE_CURRENT_LIST_DIR}/task_choices.cpp)
 list(APPEND CV2_WIN_SOURCES
-  ${CMAKE_CURRENT_LIST_DIR}/custom_task_dialog.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/full_screen_dialog.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/rule_list_page.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/rule_pages.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/task_picker_dialog.cpp
   ${CMAKE_CURRENT_LIST_DIR}/check_list_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/clock_locale_win32.cpp
   ${CMAKE_CURRENT_LIST_DIR}/clock_settings_page.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/custom_task_dialog.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/delays_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/general_outside_stores.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/general_settings_page.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/general_settings_page.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/rule_list_page.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/rule_pages.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/task_picker_dialog.cpp)

@@ -1,4 +1,4 @@
-// Pieces shared by the full-screen dialogs of the rule pages.
+// A modal dialog sized to the whole screen, and the anchoring that keeps its controls placed.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-#include "pages/behaviour/full_screen_dialog.h"
+#include "ui/full_screen_dialog.h"
 
 #include "platform/shell.h"
 #include "store/strings.h"

@@ -1,5 +1,7 @@
 #include "themes/overrides_page.h"
 
+#include "ui/child_controls.h"
+
 #include <algorithm>
 
 #include "ids_themes.h"
@@ -21,21 +23,14 @@ constexpr int kListIndent = 18; // the font list lines up with the check box's t
 constexpr int kListWidth = 150;
 constexpr int kListDrop = 120;
 
-struct ControlSpec {
-    const wchar_t* windowClass;
-    DWORD style;
-    StringId text;
-    int id;
-};
-
-const ControlSpec kControls[ThemeOverridesPage::Count] = {
-    {L"BUTTON", BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP, IDS_OVERRIDE_SOUNDS,
+const ChildControl kControls[ThemeOverridesPage::Count] = {
+    {L"BUTTON", BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP, 0, IDS_OVERRIDE_SOUNDS,
      IDC_OVERRIDE_SOUNDS},
-    {L"BUTTON", BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP, IDS_OVERRIDE_COLORS,
+    {L"BUTTON", BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP, 0, IDS_OVERRIDE_COLORS,
      IDC_OVERRIDE_COLORS},
-    {L"BUTTON", BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP, IDS_OVERRIDE_FONTS,
+    {L"BUTTON", BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP, 0, IDS_OVERRIDE_FONTS,
      IDC_OVERRIDE_FONTS},
-    {L"COMBOBOX", CBS_DROPDOWNLIST | CBS_SORT | WS_BORDER | WS_VSCROLL | WS_TABSTOP, StringId(0),
+    {L"COMBOBOX", CBS_DROPDOWNLIST | CBS_SORT | WS_BORDER | WS_VSCROLL | WS_TABSTOP, 0, StringId(0),
      IDC_OVERRIDE_FONT_LIST},
 };
 
@@ -85,14 +80,7 @@ void FillFontList(HWND list, const std::vector<std::wstring>& families) {
 ThemeOverridesPage::ThemeOverridesPage() : SettingsPage(IDS_THEME_OVERRIDES) {}
 
 void ThemeOverridesPage::Create(HWND host) {
-    HINSTANCE instance = GetModuleHandleW(nullptr);
-    for (int i = 0; i < Count; ++i) {
-        const ControlSpec& spec = kControls[i];
-        m_controls[i] = CreateWindowExW(
-            0, spec.windowClass, spec.text ? Localized(spec.text) : L"", WS_CHILD | spec.style, 0,
-            0, 0, 0, host, reinterpret_cast<HMENU>(INT_PTR(spec.id)), instance, nullptr);
-        SetControlFont(m_controls[i], TextFont());
-    }
+    CreateChildControls(host, kControls, Count, m_controls);
     RECT client = {};
     GetClientRect(host, &client);
     OnSize(client);

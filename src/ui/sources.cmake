@@ -1,4 +1,5 @@
 list(APPEND CV2_WIN_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/child_controls.cpp
   ${CMAKE_CURRENT_LIST_DIR}/control_layout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dialog_layout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/full_screen_dialog.cpp

@@ -1,5 +1,7 @@
 #include "pages/behaviour/clock_settings_page.h"
 
+#include "ui/child_controls.h"
+
 #include <algorithm>
 
 #include "ids_behaviour.h"
@@ -11,16 +13,8 @@
 namespace cv2 {
 namespace {
 
-struct ControlSpec {
-    const wchar_t* windowClass;
-    DWORD style;
-    DWORD exStyle;
-    StringId text; // 0: no text
-    int id;
-};
-
 // In creation order, which is also the tab order.
-const ControlSpec kControls[ClockSettingsPage::Count] = {
+const ChildControl kControls[ClockSettingsPage::Count] = {
     {L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, 0, StringId(0), IDC_CLOCK_STYLE},
     {L"STATIC", SS_LEFT, 0, IDS_CLOCK_TIME_FORMAT, IDC_CLOCK_TIME_LABEL},
     {L"EDIT", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP, 0, StringId(0), IDC_CLOCK_TIME},
@@ -54,15 +48,7 @@ ClockSettingsPage::ClockSettingsPage(LocaleReader readLocale)
       m_readLocale(readLocale ? readLocale : UserLocaleTimeFacts) {}
 
 void ClockSettingsPage::Create(HWND host) {
-    HINSTANCE instance = GetModuleHandleW(nullptr);
-    for (int i = 0; i < Count; ++i) {
-        const ControlSpec& spec = kControls[i];
-        m_controls[i] =
-            CreateWindowExW(spec.exStyle, spec.windowClass, spec.text ? Localized(spec.text) : L"",
-                            WS_CHILD | spec.style, 0, 0, 0, 0, host,
-                            reinterpret_cast<HMENU>(INT_PTR(spec.id)), instance, nullptr);
-        SetControlFont(m_controls[i], TextFont());
-    }
+    CreateChildControls(host, kControls, Count, m_controls);
     SendMessageW(m_controls[Style], CB_ADDSTRING, 0,
                  reinterpret_cast<LPARAM>(Localized(IDS_CLOCK_STANDARD)));
     SendMessageW(m_controls[Style], CB_ADDSTRING, 0,

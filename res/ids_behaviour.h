@@ -14,6 +14,15 @@
 #define IDC_GENERAL_LIST 1170
 #define IDC_START_MENU_LIST 1810
 
+// Program Directories.
+#define IDC_PROGRAM_START_MENU_LABEL 1120
+#define IDC_PROGRAM_START_MENU_PATH 1121
+#define IDC_PROGRAM_START_MENU_BROWSE 1122
+#define IDC_PROGRAM_THEMES_LABEL 1123
+#define IDC_PROGRAM_THEMES_LIST 1124
+#define IDC_PROGRAM_THEMES_ADD 1125
+#define IDC_PROGRAM_THEMES_DELETE 1126
+
 // Rule list pages: the controls are children of the host window, so each page tells its own
 // apart by window handle; the button ids are those of their texts.
 #define IDC_RULE_ADD 115

@@ -58,3 +58,14 @@
 #define IDC_BUTTONS_FONT 1045
 #define IDC_BUTTONS_PRESSED_COLOR 1069
 #define IDC_BUTTONS_BACKGROUND 1067
+
+// File browser: a portrait, a landscape and a square template holding the same controls.
+#define IDD_FILE_BROWSER 120
+#define IDD_FILE_BROWSER_WIDE 101
+#define IDD_FILE_BROWSER_SQUARE 103
+#define IDC_BROWSE_NAME 1010
+#define IDC_BROWSE_CANCEL 1016
+#define IDC_BROWSE_FILTER 1021
+#define IDC_BROWSE_TREE 1023
+#define IDC_BROWSE_FILES 1024
+#define IDC_BROWSE_TREE_BUTTON 1135

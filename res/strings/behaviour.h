@@ -78,3 +78,8 @@ CV_STRING(IDS_MINIMIZE_WINDOW, 247, L"Minimize the window")
 CV_STRING(IDS_CLOSE_WINDOW, 248, L"Close the window")
 CV_STRING(IDS_OK, 232, L"OK")
 CV_STRING(IDS_CANCEL, 231, L"Cancel")
+
+// Program Directories
+CV_STRING(IDS_PROGRAM_DIRECTORIES, 112, L"Program Directories")
+CV_STRING(IDS_START_MENU_PATH, 113, L"Start Menu Path")
+CV_STRING(IDS_THEME_DIRECTORIES, 114, L"Additional Theme Directories")

@@ -44,3 +44,6 @@ CV_STRING(IDS_GRADIENT_COLORS, 227, L"Gradient Colors")
 CV_STRING(IDS_USE_TODAY_COLORS, 228, L"Use Today Theme Colors")
 CV_STRING(IDS_LEFT_COLOR, 229, L"Left Color")
 CV_STRING(IDS_RIGHT_COLOR, 230, L"Right Color")
+// Titles of the file browser, picking a file or a folder.
+CV_STRING(IDS_BROWSE_FILE_TITLE, 1040, L"Open")
+CV_STRING(IDS_BROWSE_FOLDER_TITLE, 1041, L"Choose Folder")

@@ -5,6 +5,7 @@
 #include "pages/behaviour/clock_settings_page.h"
 #include "pages/behaviour/delays_page.h"
 #include "pages/behaviour/general_settings_page.h"
+#include "pages/behaviour/program_directories_page.h"
 #include "pages/behaviour/rule_pages.h"
 #include "pages/behaviour/start_menu_settings_page.h"
 #include "themes/overrides_page.h"
@@ -20,6 +21,7 @@ std::vector<SettingsPage*> CreateMainPages() {
     std::vector<SettingsPage*> pages;
     // "My Theme"
     // "Program Directories"
+    pages.push_back(Make<ProgramDirectoriesPage>());
     // "General Settings"
     pages.push_back(Make<GeneralSettingsPage>());
     // "Start Menu Settings"

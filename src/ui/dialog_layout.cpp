@@ -27,4 +27,12 @@ bool InitFullScreenDialog(HWND dialog) {
     return SHInitDialog(&info) != FALSE;
 }
 
+bool AddEmptyMenuBar(HWND dialog) {
+    SHMENUBARINFO bar = {};
+    bar.cbSize = sizeof bar;
+    bar.hwndParent = dialog;
+    bar.dwFlags = SHCMBF_EMPTYBAR;
+    return SHCreateMenuBar(&bar) != FALSE;
+}
+
 } // namespace cv2

@@ -21,5 +21,7 @@ INT_PTR RunDialog(HWND owner, const DialogTemplates& templates, DLGPROC proc, LP
 
 // Makes a dialog full-screen with the shell's Done button (which reports IDOK).
 bool InitFullScreenDialog(HWND dialog);
+// Gives a full-screen dialog the shell's menu bar without any menu.
+bool AddEmptyMenuBar(HWND dialog);
 
 } // namespace cv2

@@ -1,6 +1,8 @@
 // The editor's own open-file dialog: a folder tree rooted at "My Device", a file list drawn by
 // the thumbnail grid (pictures in image mode), a filter drop-down and a file-name box. It picks a
 // file, or in folder mode a folder, and remembers per kind of file the last folder used.
+//
+// The dialog uses the thumbnail grid's window class; Run registers it when the program has not.
 #pragma once
 
 #include <windows.h>
@@ -9,6 +11,11 @@
 #include <vector>
 
 namespace cv2 {
+
+// Where the remembered folders are kept, under HKEY_CURRENT_USER: one text value per kind.
+constexpr wchar_t kBrowseRegistryKey[] = L"Software\\Thornlea\\Corvane 2\\Browse";
+// The remembered folder is read through a buffer of this many bytes.
+constexpr size_t kBrowseValueBytes = 520;
 
 class FileBrowser {
   public:
@@ -25,14 +32,20 @@ class FileBrowser {
     // `result` then holds the chosen path (or folder).
     bool Run(HWND owner);
 
-    std::wstring filter;      // default: the "All Files" filter
-    std::wstring startFolder; // remembered folder, or empty
-    std::wstring result;      // the chosen path after OK
-    std::wstring contextName; // registry value name of the remembered folder
+    // The template the last Run opened (0 before any).
+    int TemplateUsed() const { return m_template; }
+
+    std::wstring filter;             // default: the "All Files" filter
+    std::wstring startFolder;        // remembered folder, or empty
+    std::wstring result;             // the chosen path after OK
+    std::wstring contextName;        // registry value name of the remembered folder
     std::vector<std::wstring> files; // full paths of the files listed, sorted
     bool imageMode;
     bool folderMode;
     bool remember = false;
+
+  private:
+    int m_template = 0;
 };
 
 } // namespace cv2

@@ -1,6 +1,5 @@
 #include "ui/full_screen_dialog.h"
 
-#include "platform/shell.h"
 #include "store/strings.h"
 
 namespace cv2 {
@@ -43,16 +42,6 @@ void DialogAnchors::Apply(HWND dialog) const {
 INT_PTR FullScreenDialog::Run(HWND owner, const DialogTemplates& templates) {
     return RunDialog(owner, templates, Proc, reinterpret_cast<LPARAM>(this));
 }
-
-namespace {
-bool AddEmptyMenuBar(HWND dialog) {
-    SHMENUBARINFO bar = {};
-    bar.cbSize = sizeof bar;
-    bar.hwndParent = dialog;
-    bar.dwFlags = SHCMBF_EMPTYBAR;
-    return SHCreateMenuBar(&bar) != FALSE;
-}
-} // namespace
 
 bool FullScreenDialog::Init(HWND dialog) {
     size_t count = 0;

@@ -35,4 +35,22 @@ void ShowWindows(HWND const* windows, size_t count, bool visible) {
     }
 }
 
+HWND CreatePageControl(HWND host, const wchar_t* cls, const wchar_t* text, DWORD style, int id,
+                       HFONT font) {
+    HWND child = CreateWindowExW(
+        0, cls, text, WS_CHILD | style, 0, 0, 0, 0, host,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+        reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(host, GWLP_HINSTANCE)), nullptr);
+    SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    return child;
+}
+
+void DestroyWindows(HWND* const* windows, size_t count) {
+    for (size_t i = 0; i < count; ++i) {
+        if (*windows[i] && IsWindow(*windows[i]))
+            DestroyWindow(*windows[i]);
+        *windows[i] = nullptr;
+    }
+}
+
 } // namespace cv2

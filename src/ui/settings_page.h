@@ -55,5 +55,10 @@ class SettingsPage {
 
 // Shows or hides a set of child windows (the usual body of Show).
 void ShowWindows(HWND const* windows, size_t count, bool visible);
+// Creates one of a page's controls, hidden, as a child of the host with that id and font.
+HWND CreatePageControl(HWND host, const wchar_t* cls, const wchar_t* text, DWORD style, int id,
+                       HFONT font);
+// Destroys the windows a page keeps and clears its handles (the usual body of OnDestroy).
+void DestroyWindows(HWND* const* windows, size_t count);
 
 } // namespace cv2

@@ -13,3 +13,4 @@ list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/icon_grid_input.cpp
   ${CMAKE_CURRENT_LIST_DIR}/icon_grid_paint.cpp)
 list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/text_extent.cpp)
+list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/file_browser.cpp)

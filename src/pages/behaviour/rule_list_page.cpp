@@ -11,12 +11,7 @@ RuleListPage::RuleListPage(const RulePageInfo& info) : SettingsPage(info.name), 
 
 HWND RuleListPage::MakeChild(const wchar_t* cls, const wchar_t* text, DWORD style, int id,
                              HFONT font) {
-    HWND child = CreateWindowExW(
-        0, cls, text, WS_CHILD | style, 0, 0, 0, 0, m_host,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-        reinterpret_cast<HINSTANCE>(GetWindowLongPtrW(m_host, GWLP_HINSTANCE)), nullptr);
-    SetControlFont(child, font);
-    return child;
+    return CreatePageControl(m_host, cls, text, style, id, font);
 }
 
 void RuleListPage::Create(HWND host) {
@@ -94,12 +89,8 @@ void RuleListPage::Save(IniDocument* target) {
 }
 
 void RuleListPage::OnDestroy() {
-    HWND* controls[] = {&m_caption, &m_list, &m_option, &m_add, &m_modify, &m_delete};
-    for (HWND* control : controls) {
-        if (*control)
-            DestroyWindow(*control);
-        *control = nullptr;
-    }
+    HWND* const controls[] = {&m_caption, &m_list, &m_option, &m_add, &m_modify, &m_delete};
+    DestroyWindows(controls, sizeof controls / sizeof controls[0]);
 }
 
 // All pages see every command, and other pages use the same button ids, so only commands from

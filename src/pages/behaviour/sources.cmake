@@ -17,3 +17,6 @@ list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/rule_list_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/rule_pages.cpp
   ${CMAKE_CURRENT_LIST_DIR}/task_picker_dialog.cpp)
+# Program Directories: its stored values, and the page.
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/program_directories_values.cpp)
+list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/program_directories_page.cpp)

@@ -3,11 +3,5 @@
 list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/background_record.cpp)
 list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/background_dialog.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/button_images_dialog.cpp)
-# Browsing needs the file browser's implementation; until it is part of the tree the browse
-# buttons find no file.
-if(EXISTS ${CMAKE_CURRENT_LIST_DIR}/../file_browser.cpp)
-  list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/graphics_browse.cpp)
-else()
-  list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/graphics_browse_pending.cpp)
-endif()
+  ${CMAKE_CURRENT_LIST_DIR}/button_images_dialog.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/graphics_browse.cpp)

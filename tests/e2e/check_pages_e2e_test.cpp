@@ -142,13 +142,14 @@ TEST_F(CheckPagesE2E, ApplyOnAnEmptyConfigWritesTheDefaultsInTheirKeyOrder) {
             L"\"",
         L"Date Format=\"" + locale.shortDate + L"\""};
     EXPECT_EQ(Among(doc, L"General Settings", general), general);
-    EXPECT_EQ(
-        Section(doc, L"Start Menu Settings"),
-        (KeyLines{L"Start Menu Icons=TRUE", L"Show Recent Items=TRUE", L"Show Settings=TRUE",
-                  L"Expand Settings=FALSE", L"Show Find=FALSE", L"Show Help=TRUE",
-                  L"Cache At Startup=FALSE", L"Release Backgrounds=TRUE", L"Cover Taskbar=FALSE",
-                  L"Overlap Menu=FALSE", L"IE Favorites=FALSE", L"Folders Bottom=FALSE",
-                  L"Cascading Menu Key=TRUE", L"Show Desktop=TRUE"}));
+    // The section also holds the Program Directories page's "Start Menu Path".
+    const KeyLines startMenu = {
+        L"Start Menu Icons=TRUE",   L"Show Recent Items=TRUE",   L"Show Settings=TRUE",
+        L"Expand Settings=FALSE",   L"Show Find=FALSE",          L"Show Help=TRUE",
+        L"Cache At Startup=FALSE",  L"Release Backgrounds=TRUE", L"Cover Taskbar=FALSE",
+        L"Overlap Menu=FALSE",      L"IE Favorites=FALSE",       L"Folders Bottom=FALSE",
+        L"Cascading Menu Key=TRUE", L"Show Desktop=TRUE"};
+    EXPECT_EQ(Among(doc, L"Start Menu Settings", startMenu), startMenu);
     // "Tahoma" is the default name; a machine without that font has no entry to select.
     EXPECT_EQ(Section(doc, L"Overrides"),
               (KeyLines{L"Use Sounds=TRUE", L"Use Colors=TRUE", L"Custom Font=FALSE",

@@ -11,8 +11,10 @@
 #include <utility>
 #include <vector>
 
+#include "ids_ui.h"
 #include "screen_capture.h"
 #include "store/screen.h"
+#include "ui/pickers/color_value.h"
 #include "ui/shared_fonts.h"
 
 namespace cv2test {
@@ -69,6 +71,29 @@ class DialogDriver {
         }
     }
 };
+
+// Clicks a colour button of `dlg` and, in the colour picker that opens, sets red, green and blue
+// through the number boxes before ending it with `endWith`; `shownColor` receives the colour the
+// picker opened with.
+inline void PickColourThrough(HWND dlg, int button, cv2::ColorRef color, int endWith,
+                              cv2::ColorRef* shownColor = nullptr) {
+    DialogDriver::OnNextDialog(
+        [=](HWND picker) {
+            if (shownColor) {
+                *shownColor = cv2::MakeColor(
+                    static_cast<int>(GetDlgItemInt(picker, IDC_COLOR_RED_EDIT, nullptr, FALSE)),
+                    static_cast<int>(GetDlgItemInt(picker, IDC_COLOR_GREEN_EDIT, nullptr, FALSE)),
+                    static_cast<int>(GetDlgItemInt(picker, IDC_COLOR_BLUE_EDIT, nullptr, FALSE)));
+            }
+            SetDlgItemInt(picker, IDC_COLOR_RED_EDIT, static_cast<UINT>(cv2::RedOf(color)), FALSE);
+            SetDlgItemInt(picker, IDC_COLOR_GREEN_EDIT, static_cast<UINT>(cv2::GreenOf(color)),
+                          FALSE);
+            SetDlgItemInt(picker, IDC_COLOR_BLUE_EDIT, static_cast<UINT>(cv2::BlueOf(color)),
+                          FALSE);
+        },
+        endWith);
+    DialogDriver::Click(dlg, button);
+}
 
 // A visible top-level window that owns the dialogs under test, with the shared fonts made as the
 // main window makes them.

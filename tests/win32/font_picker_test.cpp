@@ -14,6 +14,7 @@
 
 using namespace cv2;
 using cv2test::DialogDriver;
+using cv2test::PickColourThrough;
 
 namespace {
 
@@ -43,26 +44,6 @@ void TypeInCombo(HWND dlg, int id, const wchar_t* text) {
     SetDlgItemTextW(dlg, id, text);
     SendMessageW(dlg, WM_COMMAND, MAKEWPARAM(id, CBN_EDITCHANGE),
                  reinterpret_cast<LPARAM>(GetDlgItem(dlg, id)));
-}
-
-// Clicks a colour button and, in the colour picker that opens, sets red, green and blue
-// through the number boxes before ending it with `endWith`.
-void PickColourThrough(HWND dlg, int button, ColorRef color, int endWith,
-                       ColorRef* shownColor = nullptr) {
-    DialogDriver::OnNextDialog(
-        [=](HWND picker) {
-            if (shownColor) {
-                *shownColor = MakeColor(
-                    static_cast<int>(GetDlgItemInt(picker, IDC_COLOR_RED_EDIT, nullptr, FALSE)),
-                    static_cast<int>(GetDlgItemInt(picker, IDC_COLOR_GREEN_EDIT, nullptr, FALSE)),
-                    static_cast<int>(GetDlgItemInt(picker, IDC_COLOR_BLUE_EDIT, nullptr, FALSE)));
-            }
-            SetDlgItemInt(picker, IDC_COLOR_RED_EDIT, static_cast<UINT>(RedOf(color)), FALSE);
-            SetDlgItemInt(picker, IDC_COLOR_GREEN_EDIT, static_cast<UINT>(GreenOf(color)), FALSE);
-            SetDlgItemInt(picker, IDC_COLOR_BLUE_EDIT, static_cast<UINT>(BlueOf(color)), FALSE);
-        },
-        endWith);
-    DialogDriver::Click(dlg, button);
 }
 
 } // namespace

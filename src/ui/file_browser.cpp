@@ -8,7 +8,6 @@
 #include "ui/browser/browse_paths.h"
 #include "ui/browser/browse_templates.h"
 #include "ui/browser/browser_dialog.h"
-#include "ui/icon_grid.h"
 
 namespace cv2 {
 
@@ -31,10 +30,8 @@ void FileBrowser::SetFilter(const wchar_t* newFilter, bool rememberFolder, const
 }
 
 bool FileBrowser::Run(HWND owner) {
-    HINSTANCE instance = GetModuleHandleW(nullptr);
     INITCOMMONCONTROLSEX icc = {sizeof icc, ICC_TREEVIEW_CLASSES};
     InitCommonControlsEx(&icc);
-    RegisterIconGridClass(instance);
     m_template = BrowserTemplateFor(ScreenWidth(), ScreenHeight());
     result.clear();
     if (RunBrowserDialog(owner, *this, m_template) != IDOK)

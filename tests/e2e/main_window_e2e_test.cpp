@@ -1,6 +1,8 @@
 // The interactive editor: start, Apply, Cancel, Done, single instance, page menu.
 #include "device_fixture.h"
 
+#include <algorithm>
+
 #include "screen_capture.h"
 
 namespace cv2test {
@@ -111,16 +113,19 @@ TEST_F(MainWindowE2E, SecondStartRaisesTheFirstAndShowsNoSecondWindow) {
 
 TEST_F(MainWindowE2E, TapOnRightHalfOfHeaderOpensPageMenuAndPicksAPage) {
     ASSERT_TRUE(StartEditor());
-    RECT client;
-    GetClientRect(m_main, &client);
-    PostMessageW(m_main, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - 4, 4));
-    ASSERT_TRUE(WaitFor([] { return OpenMenu() != nullptr; }));
+    ASSERT_TRUE(TapHeader()) << "the page menu did not open";
     PostMessageW(OpenMenu(), WM_KEYDOWN, VK_ESCAPE, 0);
     ASSERT_TRUE(WaitFor([] { return OpenMenu() == nullptr; }));
-    // Every page listed in the menu can be picked; the number boxes belong to the last-but-one
-    // or last page and are hidden while another page is shown.
-    SelectPage(0);
-    EXPECT_TRUE(EditorRunning());
+
+    const std::vector<std::wstring> pages = MainPageNames();
+    const auto delays = std::find(pages.begin(), pages.end(), L"Delays/Timers");
+    ASSERT_NE(delays, pages.end());
+    ASSERT_NE(delays, pages.begin()) << "the test needs another page to be shown first";
+    HWND box = FindDelayBox(m_main, 0);
+    ASSERT_TRUE(box);
+    EXPECT_FALSE(IsWindowVisible(box)) << "the first page is shown at start";
+    SelectPage(static_cast<int>(delays - pages.begin()));
+    EXPECT_TRUE(WaitFor([&] { return IsWindowVisible(box) != FALSE; }));
 }
 
 TEST_F(MainWindowE2E, TapOnLeftHalfOfHeaderOpensNothing) {

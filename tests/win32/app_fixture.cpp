@@ -1,14 +1,19 @@
 #include "app_fixture.h"
 
 #include "store/screen.h"
+#include "ui/icon_grid.h"
 
 namespace cv2test {
 namespace {
 
-// The program reads the screen's densities before it makes any window; so do the tests.
-const struct ReadDensities {
-    ReadDensities() { cv2::ReadScreenDensities(); }
-} g_densities;
+// What the program's start does before it makes any window, the tests do too: read the
+// screen's densities and register the thumbnail grid's class.
+const struct ProgramStart {
+    ProgramStart() {
+        cv2::ReadScreenDensities();
+        cv2::RegisterIconGridClass(GetModuleHandleW(nullptr));
+    }
+} g_programStart;
 
 void (*g_action)() = nullptr;
 UINT_PTR g_timer = 0;

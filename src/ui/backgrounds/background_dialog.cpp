@@ -108,10 +108,7 @@ void OnThemeColorsClicked(HWND dlg, BackgroundFill& fill) {
 }
 
 void PickColor(HWND dlg, ColorRef& color) {
-    ColorPicker picker;
-    picker.color = color;
-    if (picker.Run(dlg))
-        color = picker.color;
+    EditColor(color, dlg);
     InvalidatePreview(dlg);
 }
 

@@ -160,13 +160,6 @@ void PickButtonFont(HWND dlg, FontRecord& font) {
     font.shadowColor = choice.shadowColor;
 }
 
-void PickPressedColor(HWND dlg, ColorRef& color) {
-    ColorPicker picker;
-    picker.color = color;
-    if (picker.Run(dlg))
-        color = picker.color;
-}
-
 void Browse(HWND dlg, int edit) {
     std::wstring path;
     if (BrowseGraphicsFile(dlg, path))
@@ -192,7 +185,7 @@ void OnCommand(HWND dlg, WORD id) {
         PickButtonFont(dlg, record.font);
         return;
     case IDC_BUTTONS_PRESSED_COLOR:
-        PickPressedColor(dlg, record.pressedColor);
+        EditColor(record.pressedColor, dlg);
         return;
     case IDC_BUTTONS_BACKGROUND:
         EditBackground(record.background, dlg);

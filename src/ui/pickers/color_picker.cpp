@@ -190,4 +190,13 @@ bool ColorPicker::Run(HWND parent) {
     return result == IDOK;
 }
 
+bool EditColor(ColorRef& color, HWND parent) {
+    ColorPicker picker;
+    picker.color = color;
+    if (!picker.Run(parent))
+        return false;
+    color = picker.color;
+    return true;
+}
+
 } // namespace cv2

@@ -1,10 +1,7 @@
 // The colour picker: a full-screen dialog with a slider and a number box for each of red, green
 // and blue over a swatch of the resulting colour.
 //
-//   ColorPicker picker;
-//   picker.color = current;
-//   if (picker.Run(parent))
-//       current = picker.color;
+//   EditColor(current, parent); // changes `current` only when the user confirms
 #pragma once
 
 #include <windows.h>
@@ -27,5 +24,8 @@ class ColorPicker {
     ColorRef color = 0;
     RECT preview; // swatch in client pixels
 };
+
+// Opens the picker on `color` and stores the choice in it only when the user confirmed.
+bool EditColor(ColorRef& color, HWND parent);
 
 } // namespace cv2

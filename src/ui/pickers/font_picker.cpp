@@ -232,13 +232,6 @@ INT_PTR OnInitDialog(HWND dlg, FontChoice* choice) {
     return TRUE;
 }
 
-void PickColor(HWND dlg, ColorRef& color) {
-    ColorPicker picker;
-    picker.color = color;
-    if (picker.Run(dlg))
-        color = picker.color;
-}
-
 // Shadow and glow exclude each other: checking one clears the other.
 void OnStyleClicked(HWND dlg, int id) {
     if (IsDlgButtonChecked(dlg, id) != BST_CHECKED)
@@ -264,10 +257,10 @@ void OnCommand(HWND dlg, WPARAM wParam) {
         EndDialog(dlg, IDCANCEL);
         return;
     case IDC_FONT_COLOR:
-        PickColor(dlg, choice->color);
+        EditColor(choice->color, dlg);
         break;
     case IDC_FONT_SHADOW_COLOR:
-        PickColor(dlg, choice->shadowColor);
+        EditColor(choice->shadowColor, dlg);
         break;
     case IDC_FONT_FACE:
     case IDC_FONT_SIZE:

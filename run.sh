@@ -3,6 +3,7 @@
 # Builds if needed, then starts the editor in build/device/ on a device screen (default
 # qvga-portrait). With a display, the editor opens in a Wine virtual desktop of the screen's size;
 # without one, it runs on a private virtual screen and a screenshot goes to build/screens/run.png.
+# CV2_RUN_ONCE=1 stops the editor after that screenshot (for scripted checks).
 set -uo pipefail
 cd "$(dirname "$0")"
 . tools/common.sh
@@ -14,7 +15,7 @@ if [ $# -gt 0 ] && screen_spec "$1" >/dev/null; then
 fi
 read -r size dpi <<<"$(screen_spec "$screen")"
 
-ensure_packages || exit 1
+ensure_tools || exit 1
 build_windows >/dev/null || { log "build failed"; exit 1; }
 exe=$(winpath "$BUILD/device/CV2Settings.exe")
 cd "$BUILD/device"
@@ -27,7 +28,7 @@ start_test_bar() {
 }
 
 if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then
-    ensure_prefix
+    ensure_prefix || exit 1
     set_dpi "$dpi"
     start_test_bar
     log "starting the editor on $screen ($size, $dpi dpi) in a Wine virtual desktop"
@@ -53,7 +54,11 @@ if ! kill -0 "$pid" 2>/dev/null; then
 fi
 sleep 1
 mkdir -p "$BUILD/screens"
-import -window root "$BUILD/screens/run.png"
+"$IMPORT" -window root "$BUILD/screens/run.png"
 log "screenshot written to $BUILD/screens/run.png"
+if [ "${CV2_RUN_ONCE:-}" = 1 ]; then
+    log "CV2_RUN_ONCE is set: stopping the editor"
+    exit 0 # the exit trap ends Wine and the X server, and the editor with them
+fi
 log "the editor keeps running on $DISPLAY; press Ctrl-C to stop it"
 wait "$pid"

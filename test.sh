@@ -6,7 +6,7 @@ set -uo pipefail
 cd "$(dirname "$0")"
 . tools/common.sh
 
-ensure_packages || exit 1
+ensure_tools || exit 1
 log "building the native core and tests"
 build_native || exit 1
 log "building the Windows program and tests"

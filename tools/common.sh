@@ -5,10 +5,8 @@ ROOT=$(pwd)
 BUILD="$ROOT/build"
 export CV2_WINEPREFIX="$BUILD/wineprefix"
 WINE="$ROOT/tools/wine-run.sh"
-# ImageMagick itself (a stand-in of the same name may come first on PATH).
-CONVERT=/usr/bin/convert
-WINESERVER=/usr/lib/wine/wineserver64
-[ -x "$WINESERVER" ] || WINESERVER=wineserver
+# Paths of the installed tools; empty until resolve_tools has run (after ensure_packages).
+WINESERVER="" CONVERT="" IMPORT="" XVFB=""
 
 # Debian packages the build and the tests need.
 PACKAGES="cmake make g++ googletest g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 \
@@ -28,6 +26,44 @@ ensure_packages() {
     $sudo apt-get update -qq
     DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
+
+# The first of the candidates that is an executable file, or a name found on PATH.
+first_tool() {
+    local c
+    for c in "$@"; do
+        case "$c" in
+            /*) [ -x "$c" ] && { printf '%s' "$c"; return 0; } ;;
+            *) command -v "$c" 2>/dev/null && return 0 ;;
+        esac
+    done
+    return 1
+}
+
+# Finds every tool the scripts call. Runs after ensure_packages, never before: Debian's Wine keeps
+# its loader and server under /usr/lib/wine/, outside PATH, and nothing is there before the install.
+resolve_tools() {
+    local missing=() t
+    WINESERVER=$(first_tool /usr/lib/wine/wineserver64 /usr/lib/wine/wineserver wineserver) ||
+        missing+=("wineserver (package wine64)")
+    first_tool /usr/lib/wine/wine64 wine64 wine >/dev/null || missing+=("wine64 (package wine64)")
+    # ImageMagick itself: a stand-in of the same name may come first on PATH.
+    CONVERT=$(first_tool /usr/bin/convert) || missing+=("convert (package imagemagick)")
+    IMPORT=$(first_tool /usr/bin/import) || missing+=("import (package imagemagick)")
+    XVFB=$(first_tool Xvfb) || missing+=("Xvfb (package xvfb)")
+    for t in cmake ctest make g++ x86_64-w64-mingw32-g++-posix x86_64-w64-mingw32-windres \
+        xwininfo xdpyinfo; do
+        command -v "$t" >/dev/null 2>&1 || missing+=("$t")
+    done
+    [ -f /usr/src/googletest/CMakeLists.txt ] || missing+=("/usr/src/googletest (package googletest)")
+    [ -d /usr/share/wine/fonts ] || missing+=("/usr/share/wine/fonts (package fonts-wine)")
+    if [ ${#missing[@]} -gt 0 ]; then
+        log "missing after installing the packages: ${missing[*]}"
+        return 1
+    fi
+}
+
+# Installs what is missing, then finds the tools: the one way the scripts get ready.
+ensure_tools() { ensure_packages && resolve_tools; }
 
 build_jobs() { nproc 2>/dev/null || echo 2; }
 
@@ -63,7 +99,7 @@ start_xvfb() {
     local fifo
     fifo=$(mktemp -u)
     mkfifo "$fifo"
-    Xvfb -displayfd 3 -screen 0 "${1}x24" -nolisten tcp -noreset 3>"$fifo" >/dev/null 2>&1 &
+    "$XVFB" -displayfd 3 -screen 0 "${1}x24" -nolisten tcp -noreset 3>"$fifo" >/dev/null 2>&1 &
     XVFB_PID=$!
     local display
     read -r display <"$fifo"
@@ -79,21 +115,34 @@ stop_xvfb() {
     fi
 }
 
-stop_wine() { WINEPREFIX="$CV2_WINEPREFIX" "$WINESERVER" -k >/dev/null 2>&1 || true; }
+# Called from exit traps too, possibly before the tools were found: then there is no server.
+stop_wine() {
+    [ -n "$WINESERVER" ] || return 0
+    WINEPREFIX="$CV2_WINEPREFIX" "$WINESERVER" -k >/dev/null 2>&1 || true
+}
 
-# Creates the private Wine prefix once (about 15 s) and reuses it afterwards.
+# Creates the private Wine prefix once (about 15 s) and reuses it afterwards. A stamp written
+# after the last step marks a finished prefix, so one left half-made by an interrupted run is
+# completed rather than trusted.
 ensure_prefix() {
-    [ -f "$CV2_WINEPREFIX/system.reg" ] && return 0
-    log "creating the Wine prefix in $CV2_WINEPREFIX"
+    local stamp="$CV2_WINEPREFIX/cv2-prefix-ready"
+    [ -f "$stamp" ] && return 0
+    log "preparing the Wine prefix in $CV2_WINEPREFIX"
     mkdir -p "$CV2_WINEPREFIX"
-    "$WINE" wineboot --init >/dev/null 2>&1 || true
+    "$WINE" wineboot --init >/dev/null 2>&1
+    WINEPREFIX="$CV2_WINEPREFIX" "$WINESERVER" -w
+    [ -f "$CV2_WINEPREFIX/system.reg" ] || { log "wineboot did not create $CV2_WINEPREFIX"; return 1; }
     # No window manager runs on the private X server: Wine must not wait for one (it would
     # spend two seconds on every window it hides or destroys).
-    "$WINE" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1
+    "$WINE" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1 ||
+        { log "could not set the X11 driver's Managed value"; return 1; }
     WINEPREFIX="$CV2_WINEPREFIX" "$WINESERVER" -w
     # This Wine build does not find its own fonts (Tahoma, and Marlett for the caption buttons)
     # where the package puts them; the prefix gets copies.
-    cp /usr/share/wine/fonts/*.ttf "$CV2_WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null || true
+    mkdir -p "$CV2_WINEPREFIX/drive_c/windows/Fonts"
+    cp /usr/share/wine/fonts/*.ttf "$CV2_WINEPREFIX/drive_c/windows/Fonts/" ||
+        { log "could not copy Wine's fonts into the prefix"; return 1; }
+    touch "$stamp"
 }
 
 # Sets the screen density Wine reports (takes effect for programs started afterwards).
@@ -107,9 +156,10 @@ use_screen() {
     local geometry
     geometry=$(screen_spec "$1") || { echo "unknown screen '$1' (one of: $SCREENS)" >&2; return 1; }
     set -- $geometry
+    [ -n "$WINESERVER" ] || resolve_tools || return 1
     stop_wine
     start_xvfb "$1"
-    ensure_prefix
+    ensure_prefix || return 1
     set_dpi "$2"
 }
 

@@ -163,5 +163,9 @@ use_screen() {
     set_dpi "$2"
 }
 
+# Tests start from the registry of a new device: nothing of the bar's own key is left over from
+# an earlier run, or from ./run.sh, which shares the prefix.
+reset_registry() { "$WINE" reg delete 'HKCU\Software\Thornlea' /f >/dev/null 2>&1 || true; }
+
 # The Windows form of a path of this machine, as Wine sees it.
 winpath() { printf 'Z:%s' "$(printf '%s' "$1" | tr '/' '\\')"; }

@@ -10,7 +10,7 @@ WINESERVER="" CONVERT="" IMPORT="" XVFB=""
 
 # Debian packages the build and the tests need.
 PACKAGES="cmake make g++ googletest g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 \
-xvfb x11-utils fonts-wine imagemagick icoutils clang libclang-rt-14-dev"
+xvfb x11-utils fonts-wine imagemagick icoutils clang libclang-rt-14-dev libinih-dev"
 
 log() { printf '==> %s\n' "$*" >&2; }
 

@@ -5,3 +5,7 @@ CV_STRING(IDS_CANCEL_CAPTION, 3, L"Cancel Confirmation")
 CV_STRING(IDS_ABOUT_CREDITS, 4, L"Written by the CV2Settings developers. Thanks to everyone who made themes and sent in reports.")
 CV_STRING(IDS_ABOUT_HOME_PAGE, 218, L"Home Page:")
 CV_STRING(IDS_ABOUT_SUPPORT, 219, L"Support:")
+// When Apply cannot write config.ini.
+CV_STRING(IDS_SAVE_FAILED_CAPTION, 1090, L"Settings Not Saved")
+CV_STRING(IDS_SAVE_FAILED, 1091, L"The settings could not be written to %s.\r\n\r\n%s\r\n\r\nYour changes are kept: press Apply again once the file can be written.")
+CV_STRING(IDS_SAVE_FAILED_UNKNOWN, 1092, L"Error %s.")

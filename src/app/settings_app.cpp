@@ -2,6 +2,7 @@
 
 #include "app/about_box.h"
 #include "app/bar_notify.h"
+#include "app/save_failure.h"
 #include "ids_app.h"
 #include "platform/device_colors.h"
 #include "platform/shell.h"
@@ -90,10 +91,16 @@ void SettingsApp::CreateMenuBar(HINSTANCE instance) {
     SendMessageW(m_menuBar, TB_ADDBUTTONSW, 2, reinterpret_cast<LPARAM>(buttons));
 }
 
-void SettingsApp::Apply() {
+bool SettingsApp::Apply() {
     m_host.SaveAll(nullptr);
-    m_config.Save();
+    WriteFailure failure;
+    if (!m_config.Save(nullptr, &failure)) {
+        // The old file is still whole; the bar keeps it and the pages keep the user's edits.
+        ReportSaveFailure(m_hwnd, m_config.Path(), failure);
+        return false;
+    }
     NotifyBar(BarWalk::FromFirstChild);
+    return true;
 }
 
 bool SettingsApp::ConfirmCancel() {
@@ -116,8 +123,8 @@ bool SettingsApp::OnCommand(WPARAM wParam, LPARAM lParam) {
     switch (LOWORD(wParam)) {
     case IDC_APPLY:
     case IDOK:
-        Apply();
-        if (LOWORD(wParam) == IDOK)
+        // Done leaves only once the settings are on disk.
+        if (Apply() && LOWORD(wParam) == IDOK)
             PostMessageW(m_hwnd, WM_CLOSE, 0, 0);
         return true;
     case IDC_CANCEL_EDITS:
@@ -185,7 +192,8 @@ LRESULT SettingsApp::HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CALLBACK SettingsApp::WindowProc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam) {
     if (msg == WM_CREATE) {
-        auto* app = static_cast<SettingsApp*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        auto* app =
+            static_cast<SettingsApp*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
         SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(app));
         app->OnCreate(hwnd);
         return 0;

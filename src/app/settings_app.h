@@ -34,8 +34,9 @@ class SettingsApp {
     void AddPage(SettingsPage* page) { m_host.AddPage(page); }
     void SelectPage(int index) { m_host.SelectPage(index); }
     bool TrackPageMenu(int x, int y) { return m_host.TrackPageMenu(x, y); }
-    // Saves every page into the document, writes config.ini and tells the bar.
-    void Apply();
+    // Saves every page into the document, writes config.ini and tells the bar. When the file
+    // cannot be written the user is told why, the bar is not told, and false is returned.
+    bool Apply();
     // Asks whether to leave without saving; true for Yes.
     bool ConfirmCancel();
 

@@ -1,10 +1,12 @@
 #include "platform/file_access.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/write_fault.h"
 #include "store/text_codec.h"
 
 namespace cv2 {
@@ -37,19 +39,36 @@ bool ReadWholeFile(const std::wstring& path, Bytes& out) {
     return ok;
 }
 
-bool WriteFileReplacing(const std::wstring& path, const Bytes& bytes) {
+bool WriteFileReplacing(const std::wstring& path, const Bytes& bytes, WriteFailure* failure) {
+    WriteFailure local;
+    WriteFailure& f = failure ? *failure : local;
+    f = WriteFailure{};
     const std::string target = HostPath(path);
     const std::string temp = target + ".tmp~";
-    FILE* f = std::fopen(temp.c_str(), "wb");
-    if (!f)
-        return false;
-    bool ok = bytes.empty() || std::fwrite(bytes.data(), 1, bytes.size(), f) == bytes.size();
-    ok = (std::fflush(f) == 0) && ok;
-    ok = (std::fclose(f) == 0) && ok;
-    if (ok && std::rename(temp.c_str(), target.c_str()) == 0)
-        return true;
-    std::remove(temp.c_str());
-    return false;
+    const auto lastError = [] { return static_cast<unsigned long>(errno); };
+    FILE* file = nullptr;
+    if (!RunWriteStep(
+            WriteStep::CreateTemporary, f,
+            [&] { return (file = std::fopen(temp.c_str(), "wb")) != nullptr; }, lastError))
+        return false; // nothing of ours to clean up: whatever is at the temporary path stays
+    bool ok = RunWriteStep(
+        WriteStep::Write, f,
+        [&] {
+            return bytes.empty() ||
+                   std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+        },
+        lastError);
+    ok = ok && RunWriteStep(
+                   WriteStep::Flush, f, [&] { return std::fflush(file) == 0; }, lastError);
+    const bool closed = std::fclose(file) == 0; // closed whatever happened before
+    ok = ok && RunWriteStep(
+                   WriteStep::Close, f, [&] { return closed; }, lastError);
+    ok = ok && RunWriteStep(
+                   WriteStep::Replace, f,
+                   [&] { return std::rename(temp.c_str(), target.c_str()) == 0; }, lastError);
+    if (!ok)
+        std::remove(temp.c_str());
+    return ok;
 }
 
 bool FileExists(const std::wstring& path) {

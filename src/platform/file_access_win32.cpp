@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "platform/write_fault.h"
+
 namespace cv2 {
 
 bool ReadWholeFile(const std::wstring& path, Bytes& out) {
@@ -26,22 +28,57 @@ bool ReadWholeFile(const std::wstring& path, Bytes& out) {
     return ok;
 }
 
-bool WriteFileReplacing(const std::wstring& path, const Bytes& bytes) {
-    const std::wstring temp = path + L".tmp~";
-    HANDLE h = CreateFileW(temp.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                           FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (h == INVALID_HANDLE_VALUE)
+namespace {
+
+unsigned long LastError() { return GetLastError(); }
+
+// A read-only file is not replaced: Windows refuses that, and Wine would not.
+bool ReplaceWithTemporary(const std::wstring& temp, const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY)) {
+        SetLastError(ERROR_ACCESS_DENIED);
         return false;
-    DWORD written = 0;
-    bool ok = bytes.empty() ||
-              (WriteFile(h, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
-               written == bytes.size());
-    ok = FlushFileBuffers(h) && ok;
-    ok = CloseHandle(h) && ok;
-    if (ok && MoveFileExW(temp.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING))
-        return true;
-    DeleteFileW(temp.c_str());
-    return false;
+    }
+    return MoveFileExW(temp.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
+}
+
+} // namespace
+
+bool WriteFileReplacing(const std::wstring& path, const Bytes& bytes, WriteFailure* failure) {
+    WriteFailure local;
+    WriteFailure& f = failure ? *failure : local;
+    f = WriteFailure{};
+    const std::wstring temp = path + L".tmp~";
+    HANDLE h = INVALID_HANDLE_VALUE;
+    if (!RunWriteStep(
+            WriteStep::CreateTemporary, f,
+            [&] {
+                h = CreateFileW(temp.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                FILE_ATTRIBUTE_NORMAL, nullptr);
+                return h != INVALID_HANDLE_VALUE;
+            },
+            LastError))
+        return false; // nothing of ours to clean up: whatever is at the temporary path stays
+    bool ok = RunWriteStep(
+        WriteStep::Write, f,
+        [&] {
+            DWORD written = 0;
+            return bytes.empty() || (WriteFile(h, bytes.data(), static_cast<DWORD>(bytes.size()),
+                                               &written, nullptr) &&
+                                     written == bytes.size());
+        },
+        LastError);
+    ok = ok && RunWriteStep(
+                   WriteStep::Flush, f, [&] { return FlushFileBuffers(h) != 0; }, LastError);
+    const bool closed = CloseHandle(h) != 0; // closed whatever happened before
+    ok = ok && RunWriteStep(
+                   WriteStep::Close, f, [&] { return closed; }, LastError);
+    ok = ok &&
+         RunWriteStep(
+             WriteStep::Replace, f, [&] { return ReplaceWithTemporary(temp, path); }, LastError);
+    if (!ok)
+        DeleteFileW(temp.c_str());
+    return ok;
 }
 
 bool FileExists(const std::wstring& path) {

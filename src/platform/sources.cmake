@@ -14,3 +14,5 @@ foreach(file IN LISTS platform_win32)
   endif()
 endforeach()
 list(APPEND CV2_CORE_POSIX ${platform_posix})
+# The fault tests inject into replacing writes, shared by both file-access forms.
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/write_fault.cpp)

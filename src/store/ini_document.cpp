@@ -179,11 +179,11 @@ std::string IniDocument::Serialize() const {
     return out;
 }
 
-bool IniDocument::Save(const wchar_t* path) {
+bool IniDocument::Save(const wchar_t* path, WriteFailure* failure) {
     if (path)
         m_path = CutToBuffer(path, kMaxPath);
     const std::string text = Serialize();
-    return WriteFileReplacing(m_path, Bytes(text.begin(), text.end()));
+    return WriteFileReplacing(m_path, Bytes(text.begin(), text.end()), failure);
 }
 
 void IniDocument::Clear() {

@@ -14,6 +14,8 @@
 
 namespace cv2 {
 
+struct WriteFailure; // platform/file_access.h
+
 class IniDocument {
   public:
     struct Entry {
@@ -35,8 +37,9 @@ class IniDocument {
     // Parses 8-bit file text held in memory, replacing the current content.
     void Parse(const unsigned char* bytes, size_t size);
     // Writes the whole document to `path` (or to the last loaded/saved path when null).
-    // False when the file cannot be written; the previous file then stays as it was.
-    bool Save(const wchar_t* path = nullptr);
+    // False when the file cannot be written; the previous file then stays as it was, and
+    // `failure` (when given) says where and why the write failed.
+    bool Save(const wchar_t* path = nullptr, WriteFailure* failure = nullptr);
     // The file text Save would write, with the platform's line ends.
     std::string Serialize() const;
     void Clear();

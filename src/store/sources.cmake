@@ -1,4 +1,5 @@
 list(APPEND CV2_CORE_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/format_text.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ini_document.cpp
   ${CMAKE_CURRENT_LIST_DIR}/language_strings.cpp
   ${CMAKE_CURRENT_LIST_DIR}/paths.cpp

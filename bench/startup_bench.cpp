@@ -164,12 +164,13 @@ double TimeCustomize(HWND main, DWORD processId) {
     return took;
 }
 
-Start RunOnce(const std::wstring& program, const wchar_t* className, bool isEditor) {
+Start RunOnce(const std::wstring& program, const wchar_t* className, bool isEditor,
+              const std::wstring& arguments = L"") {
     Start result;
     STARTUPINFOW si = {};
     si.cb = sizeof si;
     PROCESS_INFORMATION pi = {};
-    std::wstring line = L"\"" + program + L"\"";
+    std::wstring line = L"\"" + program + L"\" " + arguments;
     const double start = Now();
     if (!CreateProcessW(program.c_str(), &line[0], nullptr, nullptr, FALSE, 0, nullptr,
                         Folder(program).c_str(), &si, &pi))
@@ -194,11 +195,13 @@ struct Summary {
     double painted, customize, apply, memoryMb;
 };
 
-Summary Measure(const std::wstring& program, const wchar_t* className, bool isEditor, int starts) {
-    RunOnce(program, className, isEditor); // the first start also warms Wine and the file cache
+Summary Measure(const std::wstring& program, const wchar_t* className, bool isEditor, int starts,
+                const std::wstring& arguments = L"") {
+    // The first start also warms Wine and the file cache.
+    RunOnce(program, className, isEditor, arguments);
     std::vector<double> painted, customize, apply, memory;
     for (int i = 0; i < starts; ++i) {
-        const Start s = RunOnce(program, className, isEditor);
+        const Start s = RunOnce(program, className, isEditor, arguments);
         painted.push_back(s.painted);
         customize.push_back(s.customize);
         apply.push_back(s.apply);
@@ -217,13 +220,18 @@ int main(int argc, char** argv) {
         Measure(here + L"minimal_window.exe", L"CV2MinimalWindow", false, starts);
     std::printf("minimal program: first paint %.0f ms, peak private %.1f MB (median of %d)\n",
                 minimal.painted * 1e3, minimal.memoryMb, starts);
+    const Summary libraries = Measure(here + L"minimal_window.exe", L"CV2MinimalWindow", false,
+                                      starts, L"--same-libraries");
+    std::printf("minimal program with the editor's libraries and COM: first paint %.0f ms, "
+                "peak private %.1f MB\n",
+                libraries.painted * 1e3, libraries.memoryMb);
     for (int themes : {0, 200, 2000}) {
         DeviceFolder device(program, themes);
         const Summary s = Measure(device.Program(), L"CorvaneSettings", true, starts);
         std::printf("%4d themes: first paint %6.0f ms (%.2f x minimal)  peak private %5.1f MB "
-                    "(+%.1f MB)  Customize %s  Apply %.0f ms\n",
+                    "(+%.1f MB, +%.1f MB over the same libraries)  Customize %s  Apply %.0f ms\n",
                     themes, s.painted * 1e3, s.painted / minimal.painted, s.memoryMb,
-                    s.memoryMb - minimal.memoryMb,
+                    s.memoryMb - minimal.memoryMb, s.memoryMb - libraries.memoryMb,
                     s.customize < 0
                         ? "n/a"
                         : (std::to_string(static_cast<int>(s.customize * 1e3)) + " ms").c_str(),

@@ -20,6 +20,24 @@ void RouteEscapeToMainWindow(MSG& msg, HWND main) {
         msg.hwnd = main;
 }
 
+// Tab, Shift+Tab and the arrow keys move between the shown page's controls as in a dialog; the
+// dialog manager passes over hidden controls, so the focus never leaves the current page. Enter
+// and Escape are kept from it: they keep the main window's own meaning.
+bool MoveFocusByKey(MSG& msg, HWND main) {
+    if (msg.message != WM_KEYDOWN || (msg.hwnd != main && !IsChild(main, msg.hwnd)))
+        return false;
+    switch (msg.wParam) {
+    case VK_TAB:
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+        return IsDialogMessageW(main, &msg) != FALSE;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 int RunEditor(HINSTANCE instance) {
@@ -39,6 +57,8 @@ int RunEditor(HINSTANCE instance) {
         MSG msg;
         while (GetMessageW(&msg, nullptr, 0, 0) > 0) {
             RouteEscapeToMainWindow(msg, app.Window());
+            if (MoveFocusByKey(msg, app.Window()))
+                continue;
             TranslateMessage(&msg);
             DispatchMessageW(&msg);
         }

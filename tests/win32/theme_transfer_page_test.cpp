@@ -174,3 +174,64 @@ TEST_F(ImportThemePageTest, CancelledExportDialogWritesNothing) {
     IniDocument written;
     EXPECT_FALSE(written.Load(dir.File(L"no.skin")));
 }
+
+TEST_F(ImportThemePageTest, ImportingAThemeWithoutSoundsLeavesNoSoundsSection) {
+    doc.SetString(L"Sounds", L"Startup", L"\\Windows\\start.wav");
+    dir.Write(L"quiet.skin", "[Skin Info]\r\nName=Quiet\r\n[Buttons]\r\nImage=\\b.png\r\n");
+    RunEditor([&](HWND dlg) { ImportThrough(dlg, dir.File(L"quiet.skin")); }, IDCANCEL);
+    EXPECT_FALSE(doc.HasSection(L"Sounds"));
+    EXPECT_EQ(doc.GetString(L"Buttons", L"Image", L""), L"\\b.png");
+}
+
+TEST_F(ImportThemePageTest, ImportRemovesTheListedNotificationSectionsOnly) {
+    doc.SetString(L"Custom Notifications", L"0", L"Mail");
+    doc.SetString(L"Notify.Mail", L"Image", L"\\mail.png");
+    doc.SetString(L"Notify.Other", L"Image", L"\\other.png");
+    dir.Write(L"plain.skin", "[Skin Info]\r\nName=Plain\r\n");
+    RunEditor([&](HWND dlg) { ImportThrough(dlg, dir.File(L"plain.skin")); }, IDCANCEL);
+    EXPECT_FALSE(doc.HasSection(L"Notify.Mail"));
+    EXPECT_FALSE(doc.HasSection(L"Custom Notifications"));
+    EXPECT_TRUE(doc.HasSection(L"Notify.Other"));
+}
+
+TEST_F(ImportThemePageTest, ExportToTheImagesFolderWritesBareNamesAndCarriesTheTaskPanel) {
+    dir.Write(L"bar.png", "png");
+    doc.SetString(L"Task Panel", L"Height", L"40");
+    RunEditor(
+        [&](HWND dlg) {
+            TypeInto(dlg, 3001, dir.File(L"bar.png"));
+            DialogDriver::OnNextDialog([&](HWND info) { FillInfo(info, dir.File(L"out.skin")); },
+                                       IDOK);
+            DialogDriver::Click(dlg, IDC_EXPORT_THEME);
+        },
+        IDCANCEL);
+    IniDocument written;
+    ASSERT_TRUE(written.Load(dir.File(L"out.skin")));
+    EXPECT_EQ(written.GetString(L"Test", L"A", L""), L"bar.png");
+    EXPECT_EQ(written.GetString(L"Task Panel", L"Height", L""), L"40");
+}
+
+TEST_F(ImportThemePageTest, ExportingOverAnExistingFileKeepsItsKeysThatNoPageWrites) {
+    dir.Write(L"over.skin",
+              "[Skin Info]\r\nNotes=mine\r\n[Extra]\r\nKey=kept\r\n[Test]\r\nA=old\r\n");
+    RunEditor(
+        [&](HWND dlg) {
+            DialogDriver::OnNextDialog([&](HWND info) { FillInfo(info, dir.File(L"over.skin")); },
+                                       IDOK);
+            DialogDriver::Click(dlg, IDC_EXPORT_THEME);
+        },
+        IDCANCEL);
+    IniDocument written;
+    ASSERT_TRUE(written.Load(dir.File(L"over.skin")));
+    EXPECT_EQ(written.GetString(L"Extra", L"Key", L""), L"kept");
+    EXPECT_EQ(written.GetString(L"Skin Info", L"Notes", L""), L"mine");
+    EXPECT_EQ(written.GetString(L"Test", L"A", L""), L"edited");
+}
+
+TEST_F(ImportThemePageTest, AFileWithoutSkinInfoIsConvertedAsAnOlderTheme) {
+    doc.SetString(L"Sounds", L"Startup", L"\\Windows\\start.wav");
+    dir.Write(L"old.skin", "TopbarImage=top.bmp\r\n");
+    RunEditor([&](HWND dlg) { ImportThrough(dlg, dir.File(L"old.skin")); }, IDCANCEL);
+    EXPECT_FALSE(doc.HasSection(L"Sounds")) << "the conversion replaced the appearance sections";
+    EXPECT_EQ(doc.GetString(L"Test", L"A", L""), L"edited");
+}

@@ -157,8 +157,10 @@ void ImagePanel::SetRowLabels(const wchar_t* first, const wchar_t* second) {
 
 void ImagePanel::SetPath(int row, const std::wstring& path) {
     const std::wstring cut = path.substr(0, kPanelPathChars);
-    // Setting the text reports a change, which reloads the preview.
+    // The box reports the new text as a change; the preview is loaded once, here.
+    m_settingPath = true;
     SetDlgItemTextW(m_dialog, kRows[row & 1].path, cut.c_str());
+    m_settingPath = false;
     LoadPreview(row & 1);
 }
 
@@ -213,7 +215,8 @@ bool ImagePanel::OnCommand(WPARAM wParam) {
             return true;
         }
         if (id == kRows[row].path && HIWORD(wParam) == EN_CHANGE) {
-            LoadPreview(row);
+            if (!m_settingPath)
+                LoadPreview(row);
             return true;
         }
     }

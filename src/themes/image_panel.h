@@ -74,6 +74,7 @@ class ImagePanel {
     void Browse(int row);
 
     HWND m_dialog = nullptr;
+    bool m_settingPath = false; // SetPath is putting a path into a box
     LoadedImage m_previews[2];
 };
 

@@ -4,6 +4,7 @@
 #include "themes/theme_editor.h"
 
 #include "app/app_messages.h"
+#include "app_fixture.h"
 #include "ids_editor.h"
 #include "theme_editor_support.h"
 
@@ -138,4 +139,39 @@ TEST_F(ThemeEditorTest, TheEditorsOwnPageListStartsWithImportTheme) {
                                IDCANCEL);
     editor.Run(host);
     EXPECT_EQ(header, L"Import Theme");
+}
+
+namespace {
+
+bool g_menuShown = false;
+
+BOOL CALLBACK FindMenuWindow(HWND hwnd, LPARAM) {
+    wchar_t cls[16] = {};
+    GetClassNameW(hwnd, cls, 16);
+    if (lstrcmpW(cls, L"#32768") == 0 && IsWindowVisible(hwnd))
+        g_menuShown = true;
+    return TRUE;
+}
+
+} // namespace
+
+TEST_F(ThemeEditorTest, TapOnTheRightHalfOfTheHeaderOpensThePageMenu) {
+    ThemeEditor editor(&doc, ThreeFields());
+    bool thirdShown = false;
+    DialogDriver::OnNextDialog(
+        [&](HWND dlg) {
+            g_menuShown = false;
+            cv2test::RunInsideModalLoop([] {
+                EnumWindows(FindMenuWindow, 0);
+                EndMenu();
+            });
+            RECT client;
+            GetClientRect(dlg, &client);
+            SendMessageW(dlg, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - 4, 4));
+            thirdShown = cv2test::Shown(dlg, kFieldC);
+        },
+        IDCANCEL);
+    editor.Run(host);
+    EXPECT_TRUE(g_menuShown);
+    EXPECT_FALSE(thirdShown) << "a menu ended without a choice selects nothing";
 }

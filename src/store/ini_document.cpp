@@ -2,6 +2,7 @@
 
 #include <climits>
 #include <cstring>
+#include <unordered_map>
 
 #include "platform/file_access.h"
 #include "store/paths.h"
@@ -39,6 +40,14 @@ std::wstring Clean(TextRange text) {
     while (begin < end && text.begin[begin] == L' ')
         ++begin;
     return std::wstring(text.begin + begin, end - begin);
+}
+
+// The form under which EqualsNoCase finds two names equal.
+std::wstring Folded(const std::wstring& text) {
+    std::wstring folded = text;
+    for (wchar_t& c : folded)
+        c = FoldCase(c);
+    return folded;
 }
 
 enum class ParseState { Idle, SectionName, Comment, Key, Value };
@@ -340,6 +349,23 @@ void IniDocument::DeleteSection(const wchar_t* section) {
         return;
     m_sections.erase(m_sections.begin() + static_cast<std::ptrdiff_t>(at));
     DropIndex();
+}
+
+void IniDocument::DeleteSections(const std::vector<std::wstring>& names) {
+    // How many more sections of each folded name are still to go.
+    std::unordered_map<std::wstring, size_t> pending;
+    for (const std::wstring& name : names)
+        ++pending[Folded(name)];
+    std::vector<Section> kept;
+    kept.reserve(m_sections.size());
+    for (Section& s : m_sections) {
+        auto it = pending.find(Folded(s.name));
+        if (it != pending.end() && it->second > 0)
+            --it->second;
+        else
+            kept.push_back(std::move(s));
+    }
+    m_sections = std::move(kept);
 }
 
 void IniDocument::EmptySection(const wchar_t* section) {

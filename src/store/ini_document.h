@@ -61,6 +61,9 @@ class IniDocument {
     // The entries of the first section of that name, in order; empty if missing or empty.
     std::vector<EntryRef> GetSectionEntries(const wchar_t* section) const;
     void DeleteSection(const wchar_t* section);
+    // Deletes, for each name in turn, the first section of that name still present: what one
+    // DeleteSection call per name does, in a single pass (an import may name thousands).
+    void DeleteSections(const std::vector<std::wstring>& names);
     // Releases every entry of the section; the section itself stays where it is, or is added
     // empty at the end when it was missing (list pages rewrite their section this way).
     void EmptySection(const wchar_t* section);

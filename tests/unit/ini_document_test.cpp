@@ -301,3 +301,9 @@ TEST(IniDocument, MakePathsRelativeStripsTheFolderOfExistingFiles) {
     EXPECT_EQ(Value(doc, L"Topbar", L"Gone"), dir.File(L"gone.png"));
     EXPECT_EQ(Value(doc, L"Topbar", L"Elsewhere"), L"\\Windows\\x.png");
 }
+
+TEST(IniDocument, DeleteSectionsTakesTheFirstMatchOncePerName) {
+    IniDocument doc = Parsed("[A]\n[b]\n[B]\n[a]\n[C]\n[B]\n");
+    doc.DeleteSections({L"a", L"B", L"b", L"missing"});
+    EXPECT_EQ(doc.Serialize(), Lines("[a]\n\n[C]\n\n[B]\n\n"));
+}

@@ -1,0 +1,191 @@
+#include "themes/older_theme.h"
+
+#include <vector>
+
+#include "store/paths.h"
+
+namespace cv2 {
+
+const wchar_t* const kAppearanceSections[kAppearanceSectionCount] = {
+    L"Skin Info",     L"Button Images",   L"Topbar",     L"Today Menubar", L"Menubar",
+    L"Volume Bubble", L"Start Menu Skin", L"Clock Font", L"Title Font",    L"Small Clock Font",
+    L"Buttons",       L"Sounds",          L"Task Panel", L"SoftKey"};
+
+namespace {
+
+// Old themes keep every key before the first section header.
+const wchar_t kFlat[] = L"";
+
+struct ImageRow {
+    const wchar_t* sourceKey;
+    const wchar_t* section;
+    const wchar_t* key;
+};
+
+const ImageRow kImages[] = {
+    {L"Logo", L"Button Images", L"Start Menu Normal"},
+    {L"Close", L"Button Images", L"Close Normal"},
+    {L"TapHoldClose", L"Button Images", L"Close Pressed"},
+    {L"OK", L"Button Images", L"OK Normal"},
+    {L"TapHoldOK", L"Button Images", L"OK Pressed"},
+    {L"Notification", L"Button Images", L"Notify Normal"},
+    {L"VolumeOn", L"Button Images", L"Volume Normal"},
+    {L"VolumeOff", L"Button Images", L"Mute Normal"},
+    {L"Battery/Memory", L"Button Images", L"Battery/Memory Normal"},
+    {L"Home", L"Button Images", L"Home Normal"},
+    {L"Menu", L"Button Images", L"Menu Normal"},
+    {L"Custom1", L"Button Images", L"Custom1 Normal"},
+    {L"Custom2", L"Button Images", L"Custom2 Normal"},
+    {L"Connected", L"Button Images", L"Connection Normal"},
+    {L"Disconnected", L"Button Images", L"Disconnect Normal"},
+    {L"Taskbar", L"Topbar", L"Portrait"},
+    {L"Menubar", L"Today Menubar", L"Portrait"},
+    {L"SIPButton", L"Button Images", L"SIP Normal"},
+};
+
+struct FontRow {
+    const wchar_t* sourceKey;
+    const wchar_t* section;
+};
+
+const FontRow kFonts[] = {
+    {L"ClockFont", L"Clock Font"},
+    {L"TitleFont", L"Title Font"},
+    {L"SmallClockFont", L"Small Clock Font"},
+};
+
+bool IsTrimmed(wchar_t c) {
+    return c == L' ' || c == L'\r' || c == L'\n';
+}
+
+std::wstring Trim(const std::wstring& field) {
+    size_t end = field.size();
+    while (end > 0 && IsTrimmed(field[end - 1]))
+        --end;
+    size_t begin = 0;
+    while (begin < end && field[begin] == L' ')
+        ++begin;
+    return field.substr(begin, end - begin);
+}
+
+std::vector<std::wstring> SplitFields(const std::wstring& text) {
+    std::vector<std::wstring> fields;
+    size_t start = 0;
+    for (;;) {
+        const size_t comma = text.find(L',', start);
+        fields.push_back(Trim(text.substr(start, comma - start)));
+        if (comma == std::wstring::npos)
+            return fields;
+        start = comma + 1;
+    }
+}
+
+// One colour channel as the first format's reader takes it: the two hex digits are put behind
+// "0x" and read as a decimal number, which stops at the "x". Every channel is therefore 0; the
+// bar's own reader does the same, so old themes keep looking as they always did.
+int ChannelOf(const std::wstring& hex, size_t at) {
+    std::wstring text = L"0x";
+    for (size_t i = at; i < at + 2 && i < hex.size(); ++i)
+        text += hex[i];
+    return static_cast<int>(LeadingLong(text.c_str()));
+}
+
+bool IsOn(const std::vector<std::wstring>& fields, size_t at) {
+    return at < fields.size() && EqualsNoCase(fields[at].c_str(), L"t");
+}
+
+void DeleteConvertedSections(IniDocument& target) {
+    for (size_t i = 0; i < kConvertedSectionCount; ++i)
+        target.DeleteSection(kAppearanceSections[i]);
+}
+
+void CopyImages(const IniDocument& source, IniDocument& target) {
+    const std::wstring folder = FolderOf(source.Path());
+    for (const ImageRow& row : kImages) {
+        std::wstring value = source.GetString(kFlat, row.sourceKey, L"", kMaxPath);
+        if (!IsAbsolutePath(value))
+            value = CutToBuffer(folder + value, kMaxPath);
+        target.SetString(row.section, row.key, value.c_str());
+        // The old menu bar picture was always stretched to the bar.
+        if (EqualsNoCase(row.sourceKey, L"Menubar"))
+            target.SetString(L"Today Menubar", L"Mode", L"scaled");
+    }
+}
+
+void CopyFonts(const IniDocument& source, IniDocument& target) {
+    for (const FontRow& row : kFonts) {
+        const OlderFont font =
+            ParseOlderFont(source.GetString(kFlat, row.sourceKey, L"", kOlderFontChars));
+        target.SetString(row.section, L"Name", font.name.c_str());
+        target.SetInt(row.section, L"Size", static_cast<int>(font.size));
+        WriteColor(target, row.section, L"Color", font.color);
+        target.SetString(row.section, L"Style", OlderFontStyle(font).c_str());
+    }
+}
+
+void SetColorKey(IniDocument& target, const wchar_t* key, long value) {
+    target.SetInt(L"Topbar", key, static_cast<int>(value));
+}
+
+// The mode words differ in case from row to row; the bar reads them as written here.
+void CopyBackground(const IniDocument& source, IniDocument& target,
+                    const OlderThemeColors& colors) {
+    const std::wstring mode = source.GetString(kFlat, L"BGMode", L"File");
+    if (EqualsNoCase(mode.c_str(), L"File")) {
+        target.SetString(L"Topbar", L"Mode", L"Scaled");
+    } else if (EqualsNoCase(mode.c_str(), L"2002")) {
+        target.SetString(L"Topbar", L"Mode", L"Gradient");
+        target.SetBool(L"Topbar", L"Use Theme Colors", true);
+    } else if (EqualsNoCase(mode.c_str(), L"gradient")) {
+        target.SetString(L"Topbar", L"Mode", L"Gradient");
+        SetColorKey(target, L"Left Color", source.GetInt(kFlat, L"LeftGrad", colors.themeColor0));
+        SetColorKey(target, L"Right Color", source.GetInt(kFlat, L"RightGrad", colors.themeColor1));
+    } else if (EqualsNoCase(mode.c_str(), L"solid")) {
+        target.SetString(L"Topbar", L"Mode", L"color");
+        SetColorKey(target, L"Solid Color",
+                    source.GetInt(kFlat, L"SolidColor", colors.activeCaption));
+    }
+}
+
+} // namespace
+
+OlderFont ParseOlderFont(const std::wstring& text) {
+    const std::vector<std::wstring> fields = SplitFields(text);
+    const auto field = [&](size_t at) { return at < fields.size() ? fields[at] : std::wstring(); };
+    OlderFont font;
+    font.name = field(0);
+    font.size = LeadingLong(field(1).c_str());
+    const std::wstring hex = field(2);
+    font.color = MakeColor(ChannelOf(hex, 0), ChannelOf(hex, 2), ChannelOf(hex, 4));
+    font.bold = IsOn(fields, 3);
+    font.italic = IsOn(fields, 4);
+    font.shadow = IsOn(fields, 5);
+    return font;
+}
+
+std::wstring OlderFontStyle(const OlderFont& font) {
+    const std::pair<bool, const wchar_t*> words[] = {
+        {font.bold, L"bold"}, {font.italic, L"italic"}, {font.shadow, L"shadow"}};
+    std::wstring style;
+    for (const auto& word : words) {
+        if (!word.first)
+            continue;
+        if (!style.empty())
+            style += L',';
+        style += word.second;
+    }
+    return style;
+}
+
+void ConvertOlderTheme(const IniDocument& source, IniDocument& target,
+                       const OlderThemeColors& colors) {
+    DeleteConvertedSections(target);
+    target.SetBool(L"Skin Info", L"HiRes", false);
+    CopyImages(source, target);
+    target.SetBool(L"Button Images", L"Battery/Memory Custom",
+                   source.GetBool(kFlat, L"CustomBatteryColor", false));
+    CopyFonts(source, target);
+    CopyBackground(source, target, colors);
+}
+
+} // namespace cv2

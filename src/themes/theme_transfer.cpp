@@ -1,0 +1,65 @@
+#include "themes/theme_transfer.h"
+
+#include <unordered_map>
+
+#include "store/paths.h"
+
+namespace cv2 {
+namespace {
+
+const wchar_t kCustomNotifications[] = L"Custom Notifications";
+const wchar_t kNotifyPrefix[] = L"Notify.";
+
+} // namespace
+
+bool IsCurrentFormat(const IniDocument& theme) {
+    return theme.HasSection(L"Skin Info");
+}
+
+ImportedAs ImportTheme(IniDocument& edited, const IniDocument& chosen,
+                       const OlderThemeColors& colors) {
+    if (IsCurrentFormat(chosen)) {
+        ImportCurrentFormat(edited, chosen);
+        return ImportedAs::CurrentFormat;
+    }
+    ConvertOlderTheme(chosen, edited, colors);
+    return ImportedAs::OlderFormat;
+}
+
+std::vector<std::wstring> CustomNotificationNames(const IniDocument& doc) {
+    // One pass over the section instead of one search per key: the first entry of a key wins,
+    // as it does for a look-up by key.
+    std::unordered_map<std::wstring, std::wstring> byKey;
+    for (const IniDocument::EntryRef& e : doc.GetSectionEntries(kCustomNotifications))
+        byKey.emplace(e.first, e.second);
+    std::vector<std::wstring> names;
+    for (size_t i = 0;; ++i) {
+        const auto it = byKey.find(std::to_wstring(i));
+        if (it == byKey.end() || it->second.empty())
+            return names;
+        names.push_back(it->second);
+    }
+}
+
+void ImportCurrentFormat(IniDocument& edited, const IniDocument& chosen) {
+    std::vector<std::wstring> doomed(kAppearanceSections,
+                                     kAppearanceSections + kAppearanceSectionCount);
+    for (const std::wstring& name : CustomNotificationNames(edited))
+        doomed.push_back(kNotifyPrefix + name);
+    doomed.push_back(kCustomNotifications);
+    edited.DeleteSections(doomed);
+    edited.MergeFrom(chosen, true);
+}
+
+std::wstring ExportFolder(const std::wstring& themePath) {
+    const std::wstring folder = FolderOf(themePath);
+    return folder.empty() || folder.back() != L'\\' ? folder + L'\\' : folder;
+}
+
+void FinishExport(IniDocument& exported, const IniDocument& edited) {
+    for (const IniDocument::EntryRef& e : edited.GetSectionEntries(L"Task Panel"))
+        exported.SetString(L"Task Panel", e.first, e.second);
+    exported.MakePathsRelative(ExportFolder(exported.Path()));
+}
+
+} // namespace cv2

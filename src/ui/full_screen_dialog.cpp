@@ -1,6 +1,7 @@
 #include "ui/full_screen_dialog.h"
 
 #include "store/strings.h"
+#include "ui/dialog_object.h"
 
 namespace cv2 {
 
@@ -23,11 +24,10 @@ bool FullScreenDialog::Init(HWND dialog) {
 }
 
 INT_PTR CALLBACK FullScreenDialog::Proc(HWND dialog, UINT msg, WPARAM wParam, LPARAM lParam) {
-    auto* self = reinterpret_cast<FullScreenDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
+    FullScreenDialog* self = DialogObject<FullScreenDialog>(dialog, msg, lParam);
     switch (msg) {
     case WM_INITDIALOG:
-        SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-        if (!reinterpret_cast<FullScreenDialog*>(lParam)->Init(dialog))
+        if (!self->Init(dialog))
             EndDialog(dialog, -1);
         return FALSE; // OnInit sets the focus
     case WM_SIZE:

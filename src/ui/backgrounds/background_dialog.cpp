@@ -4,13 +4,11 @@
 #include "store/strings.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
+#include "ui/dialog_object.h"
 #include "ui/pickers/color_picker.h"
 
 namespace cv2 {
 namespace {
-
-// The dialog procedure reaches the open dialog's values through this.
-BackgroundDialog* g_openBackground = nullptr;
 
 // The fill modes in list order: the selected index is the mode.
 const StringId kModeNames[kBackgroundModeCount] = {IDS_MODE_SCALED, IDS_MODE_TILED, IDS_MODE_COLOR,
@@ -65,13 +63,13 @@ void InvalidatePreview(HWND dlg) {
 // Draws the fill into the strip: the solid colour, or the gradient from the left colour to the
 // right one. Pictures, no fill and the device's theme colours are not known here, so those
 // leave the strip empty.
-void PaintPreview(HWND dlg) {
+void PaintPreview(HWND dlg, const BackgroundDialog* self) {
     PAINTSTRUCT ps;
     HDC dc = BeginPaint(dlg, &ps);
     RECT client;
     GetClientRect(dlg, &client);
     const RECT strip = BackgroundPreviewRect(client.right);
-    const BackgroundFill* fill = g_openBackground ? &g_openBackground->fill : nullptr;
+    const BackgroundFill* fill = self ? &self->fill : nullptr;
     if (fill && fill->mode == kModeColor) {
         HBRUSH brush = CreateSolidBrush(fill->solidColor);
         FillRect(dc, &strip, brush);
@@ -112,12 +110,12 @@ void PickColor(HWND dlg, ColorRef& color) {
     InvalidatePreview(dlg);
 }
 
-INT_PTR OnInitDialog(HWND dlg) {
+INT_PTR OnInitDialog(HWND dlg, BackgroundDialog* self) {
     if (!InitFullScreenDialog(dlg))
         return E_FAIL;
-    if (!g_openBackground)
+    if (!self)
         return TRUE;
-    BackgroundFill& fill = g_openBackground->fill;
+    BackgroundFill& fill = self->fill;
     SetWindowTextW(dlg, Localized(IDS_BACKGROUND_SETTINGS));
     SetControlTexts(dlg, kTexts, sizeof kTexts / sizeof kTexts[0]);
     SetDialogFonts(dlg, nullptr, 0);
@@ -132,14 +130,14 @@ INT_PTR OnInitDialog(HWND dlg) {
     return TRUE;
 }
 
-void OnCommand(HWND dlg, WORD id, WORD code) {
+void OnCommand(HWND dlg, BackgroundDialog* self, WORD id, WORD code) {
     if (id == IDOK || id == IDCANCEL) {
         EndDialog(dlg, id);
         return;
     }
-    if (!g_openBackground)
+    if (!self)
         return;
-    BackgroundFill& fill = g_openBackground->fill;
+    BackgroundFill& fill = self->fill;
     switch (id) {
     case IDC_BACKGROUND_MODE:
         if (code == CBN_SELCHANGE)
@@ -161,19 +159,20 @@ void OnCommand(HWND dlg, WORD id, WORD code) {
     }
 }
 
-INT_PTR CALLBACK BackgroundDialogProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM) {
+INT_PTR CALLBACK BackgroundDialogProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM lParam) {
+    BackgroundDialog* self = DialogObject<BackgroundDialog>(dlg, msg, lParam);
     switch (msg) {
     case WM_INITDIALOG:
-        return OnInitDialog(dlg);
+        return OnInitDialog(dlg, self);
     case WM_COMMAND:
-        OnCommand(dlg, LOWORD(wParam), HIWORD(wParam));
+        OnCommand(dlg, self, LOWORD(wParam), HIWORD(wParam));
         return TRUE;
     case WM_SIZE:
         PlaceControls(dlg, kPlaces, sizeof kPlaces / sizeof kPlaces[0]);
         InvalidateRect(dlg, nullptr, TRUE);
         return TRUE;
     case WM_PAINT:
-        PaintPreview(dlg);
+        PaintPreview(dlg, self);
         return TRUE;
     case WM_CTLCOLORDLG:
     case WM_CTLCOLORSTATIC:
@@ -188,20 +187,10 @@ RECT BackgroundPreviewRect(int clientWidth) {
     return PlaceRect(kPreviewPlace, clientWidth);
 }
 
-BackgroundDialog::BackgroundDialog() {
-    g_openBackground = this;
-}
-
-BackgroundDialog::~BackgroundDialog() {
-    if (g_openBackground == this)
-        g_openBackground = nullptr;
-}
-
 bool BackgroundDialog::Run(HWND parent) {
-    g_openBackground = this;
     const INT_PTR result =
         DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_BACKGROUND), parent,
-                        BackgroundDialogProc, 0);
+                        BackgroundDialogProc, reinterpret_cast<LPARAM>(this));
     return result == IDOK;
 }
 

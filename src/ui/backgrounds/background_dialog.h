@@ -15,9 +15,7 @@ namespace cv2 {
 
 class BackgroundDialog {
   public:
-    // Makes this the open background dialog; there is only ever one.
-    BackgroundDialog();
-    ~BackgroundDialog();
+    BackgroundDialog() = default;
     BackgroundDialog(const BackgroundDialog&) = delete;
     BackgroundDialog& operator=(const BackgroundDialog&) = delete;
 

@@ -9,14 +9,12 @@
 #include "ui/backgrounds/graphics_browse.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
+#include "ui/dialog_object.h"
 #include "ui/pickers/color_picker.h"
 #include "ui/pickers/font_picker.h"
 
 namespace cv2 {
 namespace {
-
-// The dialog procedure reaches the open dialog's record through this.
-ButtonImagesDialog* g_openButtonImages = nullptr;
 
 const DialogTemplates kTemplates = {IDD_BUTTON_IMAGES_PORTRAIT, IDD_BUTTON_IMAGES_LANDSCAPE, 0};
 
@@ -118,20 +116,20 @@ void Refill(HWND dlg, const ButtonImages& record) {
 
 // Lays the dialog out for the screen's shape and refills it; done on every size change, so that
 // a turned screen shows the record again in the other layout.
-void Relayout(HWND dlg) {
+void Relayout(HWND dlg, const ButtonImagesDialog* self) {
     PlaceAll(dlg);
-    if (g_openButtonImages)
-        Refill(dlg, g_openButtonImages->record);
+    if (self)
+        Refill(dlg, self->record);
 }
 
-INT_PTR OnInitDialog(HWND dlg) {
+INT_PTR OnInitDialog(HWND dlg, const ButtonImagesDialog* self) {
     if (!InitFullScreenDialog(dlg))
         return E_FAIL;
     SetWindowTextW(dlg, Localized(IDS_BUTTON_IMAGES));
     SetDialogFonts(dlg, kBoldLabels, sizeof kBoldLabels / sizeof kBoldLabels[0]);
     for (const ImageRow& row : kImageRows)
         SendDlgItemMessageW(dlg, row.edit, EM_LIMITTEXT, kBackgroundPathChars - 1, 0);
-    Relayout(dlg);
+    Relayout(dlg, self);
     return TRUE;
 }
 
@@ -166,17 +164,17 @@ void Browse(HWND dlg, int edit) {
         SetDlgItemTextW(dlg, edit, path.c_str());
 }
 
-void OnCommand(HWND dlg, WORD id) {
+void OnCommand(HWND dlg, ButtonImagesDialog* self, WORD id) {
     if (id == IDCANCEL) {
         EndDialog(dlg, IDCANCEL);
         return;
     }
-    if (!g_openButtonImages) {
+    if (!self) {
         if (id == IDOK)
             EndDialog(dlg, IDOK);
         return;
     }
-    ButtonImages& record = g_openButtonImages->record;
+    ButtonImages& record = self->record;
     switch (id) {
     case IDOK:
         OnOk(dlg, record);
@@ -197,16 +195,17 @@ void OnCommand(HWND dlg, WORD id) {
     }
 }
 
-INT_PTR CALLBACK ButtonImagesProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM) {
+INT_PTR CALLBACK ButtonImagesProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM lParam) {
+    ButtonImagesDialog* self = DialogObject<ButtonImagesDialog>(dlg, msg, lParam);
     switch (msg) {
     case WM_INITDIALOG:
-        return OnInitDialog(dlg);
+        return OnInitDialog(dlg, self);
     case WM_COMMAND:
         if (HIWORD(wParam) == BN_CLICKED)
-            OnCommand(dlg, LOWORD(wParam));
+            OnCommand(dlg, self, LOWORD(wParam));
         return TRUE;
     case WM_SIZE:
-        Relayout(dlg);
+        Relayout(dlg, self);
         return TRUE;
     case WM_CTLCOLORDLG:
     case WM_CTLCOLORSTATIC:
@@ -216,15 +215,6 @@ INT_PTR CALLBACK ButtonImagesProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM) {
 }
 
 } // namespace
-
-ButtonImagesDialog::ButtonImagesDialog() {
-    g_openButtonImages = this;
-}
-
-ButtonImagesDialog::~ButtonImagesDialog() {
-    if (g_openButtonImages == this)
-        g_openButtonImages = nullptr;
-}
 
 void ButtonImagesDialog::Fill(const ButtonImages& values) {
     record.font.Create(values.font.face, values.font.size, values.font.style, true);
@@ -242,8 +232,7 @@ void ButtonImagesDialog::Fill(const ButtonImages& values) {
 }
 
 bool ButtonImagesDialog::Run(HWND parent) {
-    g_openButtonImages = this;
-    return RunDialog(parent, kTemplates, ButtonImagesProc, 0) == IDOK;
+    return RunDialog(parent, kTemplates, ButtonImagesProc, reinterpret_cast<LPARAM>(this)) == IDOK;
 }
 
 void ButtonImagesDialog::CopyTo(ButtonImages& values) const {

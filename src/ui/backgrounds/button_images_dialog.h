@@ -32,9 +32,7 @@ struct ButtonImages {
 
 class ButtonImagesDialog {
   public:
-    // Makes this the open button images dialog; there is only ever one.
-    ButtonImagesDialog();
-    ~ButtonImagesDialog();
+    ButtonImagesDialog() = default;
     ButtonImagesDialog(const ButtonImagesDialog&) = delete;
     ButtonImagesDialog& operator=(const ButtonImagesDialog&) = delete;
 

@@ -18,6 +18,7 @@
 #include "ui/browser/thumbnails.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
+#include "ui/dialog_object.h"
 #include "ui/file_browser.h"
 #include "ui/icon_grid.h"
 
@@ -39,10 +40,6 @@ struct Session {
     COLORREF gridBack = 0;
     int thumbSide = 0; // picture slot of the grid's image list in image mode
 };
-
-Session* SessionOf(HWND dialog) {
-    return reinterpret_cast<Session*>(GetWindowLongPtrW(dialog, DWLP_USER));
-}
 
 // The shell's small icon list, reached through the file information of any file name.
 HIMAGELIST SmallSystemIcons() {
@@ -243,13 +240,12 @@ LRESULT OnNotify(Session& s, const NMHDR& header) {
 }
 
 INT_PTR CALLBACK BrowserProc(HWND dialog, UINT msg, WPARAM wParam, LPARAM lParam) {
+    Session* s = DialogObject<Session>(dialog, msg, lParam);
     if (msg == WM_INITDIALOG) {
-        SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-        if (!OnInit(dialog, *reinterpret_cast<Session*>(lParam)))
+        if (!OnInit(dialog, *s))
             EndDialog(dialog, -1);
         return FALSE; // the focus is set
     }
-    Session* s = SessionOf(dialog);
     if (!s)
         return FALSE;
     switch (msg) {

@@ -12,12 +12,10 @@
 #include "store/screen.h"
 #include "store/strings.h"
 #include "ui/control_layout.h"
+#include "ui/dialog_object.h"
 
 namespace cv2 {
 namespace {
-
-// The dialog procedure reaches the open picker through this; there is only ever one.
-ColorPicker* g_openPicker = nullptr;
 
 struct Channel {
     int slider;
@@ -60,19 +58,19 @@ ColorRef ColorOfSliders(HWND dlg) {
     return c;
 }
 
-void InvalidatePreview(HWND dlg) {
-    if (g_openPicker)
-        InvalidateRect(dlg, &g_openPicker->preview, FALSE);
+void InvalidatePreview(HWND dlg, const ColorPicker* self) {
+    if (self)
+        InvalidateRect(dlg, &self->preview, FALSE);
 }
 
-INT_PTR OnInitDialog(HWND dlg) {
+INT_PTR OnInitDialog(HWND dlg, const ColorPicker* self) {
     SHINITDLGINFO info = {SHIDIM_FLAGS, dlg, SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN};
     if (!SHInitDialog(&info))
         return E_FAIL;
     SetWindowTextW(dlg, Localized(IDS_COLOR_PICKER_TITLE));
     SetControlTexts(dlg, kTexts, sizeof kTexts / sizeof kTexts[0]);
     SetDialogFonts(dlg, nullptr, 0);
-    const ColorRef color = g_openPicker ? g_openPicker->color : 0;
+    const ColorRef color = self ? self->color : 0;
     for (const Channel& ch : kChannels) {
         const int value = static_cast<int>((color >> ch.shift) & 0xFF);
         SendDlgItemMessageW(dlg, ch.slider, TBM_SETRANGE, TRUE, MAKELPARAM(0, 255));
@@ -83,27 +81,27 @@ INT_PTR OnInitDialog(HWND dlg) {
     return TRUE;
 }
 
-void OnSliderMoved(HWND dlg, HWND slider) {
+void OnSliderMoved(HWND dlg, const ColorPicker* self, HWND slider) {
     for (const Channel& ch : kChannels) {
         if (GetDlgItem(dlg, ch.slider) != slider)
             continue;
         SetDlgItemInt(dlg, ch.edit, static_cast<UINT>(SliderPos(dlg, ch.slider)), FALSE);
-        InvalidatePreview(dlg);
+        InvalidatePreview(dlg, self);
     }
 }
 
-void OnNumberChanged(HWND dlg, int edit) {
+void OnNumberChanged(HWND dlg, const ColorPicker* self, int edit) {
     for (const Channel& ch : kChannels) {
         if (ch.edit != edit)
             continue;
         wchar_t text[kChannelTextChars + 1] = {};
         GetDlgItemTextW(dlg, edit, text, kChannelTextChars + 1);
         SendDlgItemMessageW(dlg, ch.slider, TBM_SETPOS, TRUE, ChannelFromText(text));
-        InvalidatePreview(dlg);
+        InvalidatePreview(dlg, self);
     }
 }
 
-void OnPaint(HWND dlg) {
+void OnPaint(HWND dlg, const ColorPicker* self) {
     PAINTSTRUCT ps;
     HDC screen = BeginPaint(dlg, &ps);
     RECT client;
@@ -113,10 +111,10 @@ void OnPaint(HWND dlg) {
     HGDIOBJ oldBitmap = SelectObject(mem, bitmap);
     FillRect(mem, &client, DeviceStaticBrush());
     RECT swatch;
-    if (g_openPicker && IntersectRect(&swatch, &g_openPicker->preview, &client)) {
+    if (self && IntersectRect(&swatch, &self->preview, &client)) {
         HBRUSH brush = CreateSolidBrush(ColorOfSliders(dlg));
         HGDIOBJ oldBrush = SelectObject(mem, brush);
-        const RECT& p = g_openPicker->preview;
+        const RECT& p = self->preview;
         Rectangle(mem, p.left, p.top, p.right, p.bottom);
         SelectObject(mem, oldBrush);
         DeleteObject(brush);
@@ -128,13 +126,13 @@ void OnPaint(HWND dlg) {
     EndPaint(dlg, &ps);
 }
 
-void OnCommand(HWND dlg, WPARAM wParam) {
+void OnCommand(HWND dlg, ColorPicker* self, WPARAM wParam) {
     const int id = LOWORD(wParam);
     if (HIWORD(wParam) == EN_CHANGE) {
-        OnNumberChanged(dlg, id);
+        OnNumberChanged(dlg, self, id);
     } else if (id == IDOK) {
-        if (g_openPicker)
-            g_openPicker->color = ColorOfSliders(dlg);
+        if (self)
+            self->color = ColorOfSliders(dlg);
         EndDialog(dlg, IDOK);
     } else if (id == IDCANCEL) {
         EndDialog(dlg, IDCANCEL);
@@ -142,14 +140,15 @@ void OnCommand(HWND dlg, WPARAM wParam) {
 }
 
 INT_PTR CALLBACK ColorDialogProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM lParam) {
+    ColorPicker* self = DialogObject<ColorPicker>(dlg, msg, lParam);
     switch (msg) {
     case WM_INITDIALOG:
-        return OnInitDialog(dlg);
+        return OnInitDialog(dlg, self);
     case WM_HSCROLL:
-        OnSliderMoved(dlg, reinterpret_cast<HWND>(lParam));
+        OnSliderMoved(dlg, self, reinterpret_cast<HWND>(lParam));
         return TRUE;
     case WM_COMMAND:
-        OnCommand(dlg, wParam);
+        OnCommand(dlg, self, wParam);
         return TRUE;
     case WM_SIZE:
         PlaceControls(dlg, kPlaces, sizeof kPlaces / sizeof kPlaces[0]);
@@ -159,7 +158,7 @@ INT_PTR CALLBACK ColorDialogProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM lPara
         SetWindowLongPtrW(dlg, DWLP_MSGRESULT, 1);
         return TRUE;
     case WM_PAINT:
-        OnPaint(dlg);
+        OnPaint(dlg, self);
         return TRUE;
     case WM_CTLCOLORSTATIC:
         return StaticColors(reinterpret_cast<HDC>(wParam));
@@ -173,20 +172,14 @@ ColorPicker::ColorPicker() {
     ReadScreenDensities();
     const PreviewBox box = ColorPreviewBox(g_dpiX, g_dpiY);
     preview = {box.left, box.top, box.right, box.bottom};
-    g_openPicker = this;
-}
-
-ColorPicker::~ColorPicker() {
-    if (g_openPicker == this)
-        g_openPicker = nullptr;
 }
 
 bool ColorPicker::Run(HWND parent) {
     INITCOMMONCONTROLSEX icc = {sizeof icc, ICC_BAR_CLASSES};
     InitCommonControlsEx(&icc);
-    g_openPicker = this;
-    const INT_PTR result = DialogBoxParamW(
-        GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_COLOR_PICKER), parent, ColorDialogProc, 0);
+    const INT_PTR result =
+        DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_COLOR_PICKER), parent,
+                        ColorDialogProc, reinterpret_cast<LPARAM>(this));
     return result == IDOK;
 }
 

@@ -12,9 +12,8 @@ namespace cv2 {
 
 class ColorPicker {
   public:
-    // Fixes the swatch for the screen's density and makes this the open picker.
+    // Fixes the swatch for the screen's density.
     ColorPicker();
-    ~ColorPicker();
     ColorPicker(const ColorPicker&) = delete;
     ColorPicker& operator=(const ColorPicker&) = delete;
 

@@ -16,7 +16,12 @@ fi
 read -r size dpi <<<"$(screen_spec "$screen")"
 
 ensure_tools || exit 1
-build_windows >/dev/null || { log "build failed"; exit 1; }
+mkdir -p "$BUILD"
+if ! build_windows >"$BUILD/run-build.log" 2>&1; then
+    tail -n 30 "$BUILD/run-build.log" >&2
+    log "build failed; the whole output is in $BUILD/run-build.log"
+    exit 1
+fi
 exe=$(winpath "$BUILD/device/CV2Settings.exe")
 cd "$BUILD/device"
 

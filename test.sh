@@ -19,6 +19,7 @@ log "native tests (AddressSanitizer, UBSan)"
 (cd "$BUILD/native" && ctest --output-on-failure) || failed=1
 
 use_screen qvga-portrait || exit 1
+reset_registry
 log "Windows tests under Wine"
 (cd "$BUILD/win" && ctest --output-on-failure) || failed=1
 
@@ -30,7 +31,7 @@ run_screens() {
         dir="$BUILD/screens/$screen"
         rm -rf "$dir" && mkdir -p "$dir"
         export CV2_SCREEN="$screen" CV2_SCREENS_DIR="$(winpath "$dir")"
-        export CV2_DEVICE_DIR="$(winpath "$BUILD/device")"
+        export CV2_DEVICE_DIR="$(winpath "$BUILD/device")" CV2_SAMPLES_DIR="$(winpath "$ROOT/samples/device")"
         for t in win32_tests e2e_tests; do
             "$WINE" "$BUILD/win/tests/$t.exe" --gtest_filter='*Screens.*' --gtest_brief=1 || return 1
         done

@@ -10,7 +10,7 @@ WINESERVER="" CONVERT="" IMPORT="" XVFB=""
 
 # Debian packages the build and the tests need.
 PACKAGES="cmake make g++ googletest g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 \
-xvfb x11-utils fonts-wine imagemagick icoutils clang libclang-rt-14-dev"
+xvfb x11-utils fonts-wine imagemagick icoutils clang libclang-rt-14-dev libinih-dev"
 
 log() { printf '==> %s\n' "$*" >&2; }
 
@@ -162,6 +162,10 @@ use_screen() {
     ensure_prefix || return 1
     set_dpi "$2"
 }
+
+# Tests start from the registry of a new device: nothing of the bar's own key is left over from
+# an earlier run, or from ./run.sh, which shares the prefix.
+reset_registry() { "$WINE" reg delete 'HKCU\Software\Thornlea' /f >/dev/null 2>&1 || true; }
 
 # The Windows form of a path of this machine, as Wine sees it.
 winpath() { printf 'Z:%s' "$(printf '%s' "$1" | tr '/' '\\')"; }

@@ -11,27 +11,35 @@
 namespace cv2 {
 namespace {
 
-bool IsLineBreak(wchar_t c) { return c == L'\n' || c == L'\r'; }
+bool IsLineBreak(wchar_t c) {
+    return c == L'\n' || c == L'\r';
+}
+
+// A stretch of the decoded file text, cleaned without copying it first.
+struct TextRange {
+    const wchar_t* begin;
+    size_t size;
+};
 
 // Cuts at the first '#' outside double quotes, then strips trailing blanks and line breaks and
 // leading blanks (the blank character only; tabs stay).
-std::wstring Clean(const std::wstring& text) {
+std::wstring Clean(TextRange text) {
     bool quoted = false;
-    size_t end = text.size();
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == L'"') {
+    size_t end = text.size;
+    for (size_t i = 0; i < text.size; ++i) {
+        if (text.begin[i] == L'"') {
             quoted = !quoted;
-        } else if (text[i] == L'#' && !quoted) {
+        } else if (text.begin[i] == L'#' && !quoted) {
             end = i;
             break;
         }
     }
-    while (end > 0 && (text[end - 1] == L' ' || IsLineBreak(text[end - 1])))
+    while (end > 0 && (text.begin[end - 1] == L' ' || IsLineBreak(text.begin[end - 1])))
         --end;
     size_t begin = 0;
-    while (begin < end && text[begin] == L' ')
+    while (begin < end && text.begin[begin] == L' ')
         ++begin;
-    return text.substr(begin, end - begin);
+    return std::wstring(text.begin + begin, end - begin);
 }
 
 // The form under which EqualsNoCase finds two names equal.
@@ -43,6 +51,16 @@ std::wstring Folded(const std::wstring& text) {
 }
 
 enum class ParseState { Idle, SectionName, Comment, Key, Value };
+
+// Sections with at most this many keys are searched key by key rather than through an index.
+const size_t kDirectSearchKeys = 8;
+
+std::wstring Folded(const wchar_t* name) {
+    std::wstring folded;
+    for (; *name; ++name)
+        folded += FoldCase(*name);
+    return folded;
+}
 
 } // namespace
 
@@ -96,8 +114,8 @@ void IniDocument::Parse(const unsigned char* bytes, size_t size) {
     Clear();
     const std::wstring text = DecodeAnsi(bytes, size);
     ParseState state = ParseState::Idle;
-    size_t start = 0;    // where the current name, key or value starts
-    std::wstring key;    // the key of the line being read, once '=' was seen
+    size_t start = 0;   // where the current name, key or value starts
+    TextRange key = {}; // the key of the line being read, once '=' was seen
     for (size_t i = 0; i < text.size(); ++i) {
         const wchar_t c = text[i];
         switch (state) {
@@ -126,7 +144,7 @@ void IniDocument::Parse(const unsigned char* bytes, size_t size) {
             break;
         case ParseState::Key:
             if (c == L'=') {
-                key = text.substr(start, i - start);
+                key = TextRange{text.data() + start, i - start};
                 start = i + 1;
                 state = ParseState::Value;
             } else if (IsLineBreak(c)) {
@@ -135,7 +153,7 @@ void IniDocument::Parse(const unsigned char* bytes, size_t size) {
             break;
         case ParseState::Value:
             if (IsLineBreak(c)) {
-                AddParsed(key, text.substr(start, i - start));
+                AddParsed(Clean(key), Clean(TextRange{text.data() + start, i - start}));
                 state = ParseState::Idle;
             }
             break;
@@ -143,18 +161,17 @@ void IniDocument::Parse(const unsigned char* bytes, size_t size) {
     }
     // A file that ends inside a value keeps the value up to its last character.
     if (state == ParseState::Value)
-        AddParsed(key, text.substr(start));
+        AddParsed(Clean(key), Clean(TextRange{text.data() + start, text.size() - start}));
 }
 
 // Appends a parsed pair to the current (last made) section; a pair before any header gets a
 // section with the empty name.
-void IniDocument::AddParsed(const std::wstring& rawKey, const std::wstring& rawValue) {
-    const std::wstring key = Clean(rawKey);
+void IniDocument::AddParsed(std::wstring key, std::wstring value) {
     if (key.empty())
         return;
     if (m_sections.empty())
         m_sections.push_back(Section{});
-    m_sections.back().entries.push_back(Entry{key, Clean(rawValue)});
+    m_sections.back().entries.push_back(Entry{std::move(key), std::move(value)});
 }
 
 std::string IniDocument::Serialize() const {
@@ -178,34 +195,91 @@ bool IniDocument::Save(const wchar_t* path) {
     return WriteFileReplacing(m_path, Bytes(text.begin(), text.end()));
 }
 
-void IniDocument::Clear() { m_sections.clear(); }
+void IniDocument::Clear() {
+    m_sections.clear();
+    DropIndex();
+}
+
+void IniDocument::DropIndex() {
+    m_indexed = false;
+    m_sectionIndex.clear();
+    m_keyIndex.clear();
+}
+
+// Indexes every section's name, and the keys of the larger sections; the first of equal names
+// keeps its place, as the first match wins.
+void IniDocument::BuildIndex() const {
+    m_sectionIndex.clear();
+    m_keyIndex.assign(m_sections.size(), NameIndex());
+    for (size_t s = 0; s < m_sections.size(); ++s) {
+        m_sectionIndex.emplace(Folded(m_sections[s].name.c_str()), s);
+        const std::vector<Entry>& entries = m_sections[s].entries;
+        if (entries.size() <= kDirectSearchKeys)
+            continue;
+        for (size_t e = 0; e < entries.size(); ++e)
+            m_keyIndex[s].emplace(Folded(entries[e].key.c_str()), e);
+    }
+    m_indexed = true;
+}
+
+size_t IniDocument::FindSectionAt(const wchar_t* name) const {
+    if (!m_indexed)
+        BuildIndex();
+    const auto it = m_sectionIndex.find(Folded(name));
+    return it == m_sectionIndex.end() ? kNone : it->second;
+}
+
+size_t IniDocument::FindKeyAt(size_t section, const wchar_t* key) const {
+    const std::vector<Entry>& entries = m_sections[section].entries;
+    if (entries.size() <= kDirectSearchKeys) {
+        for (size_t e = 0; e < entries.size(); ++e) {
+            if (EqualsNoCase(entries[e].key.c_str(), key))
+                return e;
+        }
+        return kNone;
+    }
+    const NameIndex& keys = m_keyIndex[section];
+    const auto it = keys.find(Folded(key));
+    return it == keys.end() ? kNone : it->second;
+}
+
+// Appends a key to a section and keeps the index in step. The section's key index is made when
+// the section grows past the size that is searched directly.
+void IniDocument::AppendEntry(size_t section, const wchar_t* key, const wchar_t* value) {
+    std::vector<Entry>& entries = m_sections[section].entries;
+    entries.push_back(Entry{key, value});
+    if (!m_indexed)
+        return;
+    NameIndex& keys = m_keyIndex[section];
+    if (entries.size() == kDirectSearchKeys + 1) {
+        for (size_t e = 0; e < entries.size(); ++e)
+            keys.emplace(Folded(entries[e].key.c_str()), e);
+    } else if (entries.size() > kDirectSearchKeys + 1) {
+        keys.emplace(Folded(key), entries.size() - 1);
+    }
+}
 
 const IniDocument::Section* IniDocument::FindSection(const wchar_t* name) const {
-    for (const Section& s : m_sections) {
-        if (EqualsNoCase(s.name.c_str(), name))
-            return &s;
-    }
-    return nullptr;
+    const size_t at = FindSectionAt(name);
+    return at == kNone ? nullptr : &m_sections[at];
 }
 
 IniDocument::Section& IniDocument::FindOrAddSection(const wchar_t* name) {
-    for (Section& s : m_sections) {
-        if (EqualsNoCase(s.name.c_str(), name))
-            return s;
-    }
+    const size_t at = FindSectionAt(name);
+    if (at != kNone)
+        return m_sections[at];
+    m_sectionIndex.emplace(Folded(name), m_sections.size());
+    m_keyIndex.emplace_back();
     m_sections.push_back(Section{name, {}});
     return m_sections.back();
 }
 
 const IniDocument::Entry* IniDocument::FindEntry(const wchar_t* section, const wchar_t* key) const {
-    const Section* s = FindSection(section);
-    if (!s)
+    const size_t s = FindSectionAt(section);
+    if (s == kNone)
         return nullptr;
-    for (const Entry& e : s->entries) {
-        if (EqualsNoCase(e.key.c_str(), key))
-            return &e;
-    }
-    return nullptr;
+    const size_t e = FindKeyAt(s, key);
+    return e == kNone ? nullptr : &m_sections[s].entries[e];
 }
 
 void IniDocument::GetString(const wchar_t* section, const wchar_t* key, wchar_t* buffer,
@@ -239,14 +313,12 @@ bool IniDocument::GetBool(const wchar_t* section, const wchar_t* key, bool def) 
 }
 
 void IniDocument::SetString(const wchar_t* section, const wchar_t* key, const wchar_t* value) {
-    Section& s = FindOrAddSection(section);
-    for (Entry& e : s.entries) {
-        if (EqualsNoCase(e.key.c_str(), key)) {
-            e.value = value ? value : L"";
-            return;
-        }
-    }
-    s.entries.push_back(Entry{key, value ? value : L""});
+    const size_t s = static_cast<size_t>(&FindOrAddSection(section) - m_sections.data());
+    const size_t e = FindKeyAt(s, key);
+    if (e != kNone)
+        m_sections[s].entries[e].value = value ? value : L"";
+    else
+        AppendEntry(s, key, value ? value : L"");
 }
 
 void IniDocument::SetInt(const wchar_t* section, const wchar_t* key, int value) {
@@ -257,7 +329,9 @@ void IniDocument::SetBool(const wchar_t* section, const wchar_t* key, bool value
     SetString(section, key, value ? L"TRUE" : L"FALSE");
 }
 
-bool IniDocument::HasSection(const wchar_t* section) const { return FindSection(section) != nullptr; }
+bool IniDocument::HasSection(const wchar_t* section) const {
+    return FindSection(section) != nullptr;
+}
 
 std::vector<IniDocument::EntryRef> IniDocument::GetSectionEntries(const wchar_t* section) const {
     std::vector<EntryRef> refs;
@@ -268,13 +342,13 @@ std::vector<IniDocument::EntryRef> IniDocument::GetSectionEntries(const wchar_t*
     return refs;
 }
 
+// Every later section moves up one place, so the index is made again on the next look-up.
 void IniDocument::DeleteSection(const wchar_t* section) {
-    for (auto it = m_sections.begin(); it != m_sections.end(); ++it) {
-        if (EqualsNoCase(it->name.c_str(), section)) {
-            m_sections.erase(it);
-            return;
-        }
-    }
+    const size_t at = FindSectionAt(section);
+    if (at == kNone)
+        return;
+    m_sections.erase(m_sections.begin() + static_cast<std::ptrdiff_t>(at));
+    DropIndex();
 }
 
 void IniDocument::DeleteSections(const std::vector<std::wstring>& names) {
@@ -295,7 +369,9 @@ void IniDocument::DeleteSections(const std::vector<std::wstring>& names) {
 }
 
 void IniDocument::EmptySection(const wchar_t* section) {
-    FindOrAddSection(section).entries.clear();
+    Section& s = FindOrAddSection(section);
+    s.entries.clear();
+    m_keyIndex[static_cast<size_t>(&s - m_sections.data())].clear();
 }
 
 void IniDocument::MergeFrom(const IniDocument& other, bool resolvePaths) {

@@ -3,9 +3,12 @@
 //
 // The document is an ordered list of sections, each an ordered list of key/value pairs. Duplicate
 // sections and keys are kept as they are; look-ups are case-insensitive and the first match wins.
+// Look-ups go through an index of the folded names, so reading, setting and merging cost the same
+// in a document of a hundred sections as in one of a hundred thousand.
 #pragma once
 
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -74,13 +77,31 @@ class IniDocument {
     const std::vector<Section>& Sections() const { return m_sections; }
 
   private:
+    using NameIndex = std::unordered_map<std::wstring, size_t>;
+    static constexpr size_t kNone = static_cast<size_t>(-1);
+
+    // Positions of the first section or key of that name; kNone when missing.
+    size_t FindSectionAt(const wchar_t* name) const;
+    size_t FindKeyAt(size_t section, const wchar_t* key) const;
     const Section* FindSection(const wchar_t* name) const;
     Section& FindOrAddSection(const wchar_t* name);
     const Entry* FindEntry(const wchar_t* section, const wchar_t* key) const;
-    void AddParsed(const std::wstring& rawKey, const std::wstring& rawValue);
+    // Appends a cleaned key and value read from the file to the last section.
+    void AddParsed(std::wstring key, std::wstring value);
+    void AppendEntry(size_t section, const wchar_t* key, const wchar_t* value);
+    void BuildIndex() const;
+    void DropIndex();
 
     std::wstring m_path;
     std::vector<Section> m_sections;
+
+    // The look-up index, made on the first look-up (so a parse that is only written out again
+    // never pays for it) and kept in step with every change after that. Folded section name to
+    // the first section of that name; per section, folded key to its first entry. Sections of
+    // a few keys are searched directly: an index would cost more memory than it saves time.
+    mutable bool m_indexed = false;
+    mutable NameIndex m_sectionIndex;
+    mutable std::vector<NameIndex> m_keyIndex; // parallel to m_sections
 };
 
 // Case-insensitive comparison used for section and key names (ASCII and Latin-1 letters fold).

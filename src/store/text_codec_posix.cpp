@@ -1,14 +1,16 @@
 #include "store/text_codec.h"
 
+#include <cstring>
+
 namespace cv2 {
 namespace {
 
 // Windows-1252 for 0x80..0x9F. The five bytes the code page leaves undefined map to the C1
 // control of the same number, as Windows itself does, so every byte survives a round trip.
-const wchar_t kHighControls[32] = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+const wchar_t kHighControls[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                   0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                   0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                   0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 wchar_t DecodeByte(unsigned char b) {
     if (b >= 0x80 && b < 0xA0)
@@ -29,10 +31,13 @@ char EncodeChar(wchar_t c) {
 } // namespace
 
 std::wstring DecodeAnsi(const unsigned char* bytes, size_t size) {
-    std::wstring text;
-    text.reserve(size);
-    for (size_t i = 0; i < size && bytes[i] != 0; ++i)
-        text.push_back(DecodeByte(bytes[i]));
+    // The text ends at the first NUL byte, as a C string would.
+    const void* nul = std::memchr(bytes, 0, size);
+    const size_t length =
+        nul ? static_cast<size_t>(static_cast<const unsigned char*>(nul) - bytes) : size;
+    std::wstring text(length, L'\0');
+    for (size_t i = 0; i < length; ++i)
+        text[i] = DecodeByte(bytes[i]);
     return text;
 }
 

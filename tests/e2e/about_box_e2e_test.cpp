@@ -21,8 +21,8 @@ class AboutBoxE2E : public DeviceFixture {
         return box;
     }
     void CopyLogo() {
-        const char* device = std::getenv("CV2_DEVICE_DIR");
-        std::string from = std::string(device ? device : ".") + "\\logo.png";
+        const char* samples = std::getenv("CV2_SAMPLES_DIR");
+        std::string from = std::string(samples ? samples : ".") + "\\logo.png";
         ASSERT_TRUE(CopyFileW(std::wstring(from.begin(), from.end()).c_str(), File(L"logo.png").c_str(), FALSE));
     }
     static HANDLE Picture(HWND dialog) {

@@ -7,4 +7,5 @@
 #include "strings/ui.h"
 #include "strings/behaviour.h"
 #include "strings/themes.h"
+#include "strings/editor.h"
 #include "strings/appearance.h"

@@ -144,18 +144,10 @@ LRESULT SettingsApp::OnCtlColorButton(WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT SettingsApp::HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam) {
+    LRESULT result = 0;
+    if (m_host.HandleMessage(msg, wParam, lParam, result))
+        return result;
     switch (msg) {
-    case WM_SIZE:
-        m_host.DispatchSize(LOWORD(lParam), HIWORD(lParam));
-        return 0;
-    case WM_ERASEBKGND:
-        return 1; // WM_PAINT covers every pixel from its off-screen bitmap
-    case WM_PAINT:
-        m_host.Paint();
-        return 0;
-    case WM_LBUTTONDOWN:
-        TrackPageMenu(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
-        return 0;
     case WM_KEYDOWN:
         if (wParam == VK_ESCAPE) {
             if (ConfirmCancel())
@@ -166,9 +158,6 @@ LRESULT SettingsApp::HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND:
         if (OnCommand(wParam, lParam))
             return 0;
-        break;
-    case WM_NOTIFY:
-        m_host.DispatchNotify(wParam, lParam);
         break;
     case kCtlColorButton:
         return OnCtlColorButton(wParam, lParam);

@@ -27,12 +27,17 @@ BOOL CALLBACK SetTextFontProc(HWND child, LPARAM) {
 
 } // namespace
 
-RECT PlaceRect(const ControlPlace& place, int clientWidth) {
+RECT PlaceRect(const ControlPlace& place, int clientWidth, int clientHeight) {
     RECT r;
     r.left = EdgeX(place.leftFrom, place.left, clientWidth);
     r.right = EdgeX(place.rightFrom, place.right, clientWidth);
-    r.top = Scale(place.top);
-    r.bottom = r.top + Scale(place.height);
+    r.top = Scale(place.top) + (place.topFrom == FromY::Bottom ? clientHeight : 0);
+    r.bottom = place.stretchDown ? clientHeight + Scale(place.height) : r.top + Scale(place.height);
+    // A client too small for the control still gets it one pixel wide and high.
+    if (r.right <= r.left)
+        r.right = r.left + 1;
+    if (r.bottom <= r.top)
+        r.bottom = r.top + 1;
     return r;
 }
 
@@ -40,7 +45,7 @@ void PlaceControls(HWND dialog, const ControlPlace* places, size_t count) {
     RECT client;
     GetClientRect(dialog, &client);
     for (size_t i = 0; i < count; ++i) {
-        const RECT r = PlaceRect(places[i], client.right);
+        const RECT r = PlaceRect(places[i], client.right, client.bottom);
         if (HWND control = GetDlgItem(dialog, places[i].id))
             MoveWindow(control, r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
     }

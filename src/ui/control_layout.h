@@ -1,7 +1,8 @@
-// Placement of dialog controls. A place is written in 96-dpi units for a screen of any
-// width: each horizontal edge is measured from the client's left edge, its middle or its right
-// edge, so one table serves narrow and wide screens, and the numbers are scaled to the screen's
-// density when applied.
+// Placement of dialog controls. A place is written in 96-dpi units for a screen of any size:
+// each horizontal edge is measured from the client's left edge, its middle or its right edge,
+// and the top from the client's top or bottom edge, so one table serves narrow and wide, short
+// and tall screens; the numbers are scaled to the screen's density when applied. Places are
+// applied again whenever the dialog's size changes.
 #pragma once
 
 #include <windows.h>
@@ -13,6 +14,7 @@
 namespace cv2 {
 
 enum class From : unsigned char { Left, Middle, Right };
+enum class FromY : unsigned char { Top, Bottom };
 
 struct ControlPlace {
     int id;
@@ -22,10 +24,15 @@ struct ControlPlace {
     int right;
     int top;
     int height;
+    // Controls that keep to the client's bottom edge: the top measured from the bottom edge
+    // (a negative offset), or, with `stretchDown`, `height` read as the bottom edge's offset
+    // from the client's bottom edge, so that the control grows with the client.
+    FromY topFrom = FromY::Top;
+    bool stretchDown = false;
 };
 
-// The place in client pixels for a client area `clientWidth` pixels wide.
-RECT PlaceRect(const ControlPlace& place, int clientWidth);
+// The place in client pixels for a client area `clientWidth` x `clientHeight` pixels.
+RECT PlaceRect(const ControlPlace& place, int clientWidth, int clientHeight = 0);
 // Moves every control of the table to its place.
 void PlaceControls(HWND dialog, const ControlPlace* places, size_t count);
 

@@ -4,51 +4,20 @@
 
 namespace cv2 {
 
-void DialogAnchors::Capture(HWND dialog, const ControlAnchor* anchors, size_t count) {
-    RECT client;
-    GetClientRect(dialog, &client);
-    m_client = {client.right, client.bottom};
-    m_controls.clear();
-    for (size_t i = 0; i < count; ++i) {
-        HWND control = GetDlgItem(dialog, anchors[i].id);
-        if (!control)
-            continue;
-        RECT r;
-        GetWindowRect(control, &r);
-        MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&r), 2);
-        m_controls.push_back(Placed{control, anchors[i].flags, r});
-    }
-}
-
-void DialogAnchors::Apply(HWND dialog) const {
-    RECT client;
-    GetClientRect(dialog, &client);
-    const int dx = client.right - m_client.cx;
-    const int dy = client.bottom - m_client.cy;
-    for (const Placed& p : m_controls) {
-        RECT r = p.rect;
-        if (p.flags & kFollowRight)
-            OffsetRect(&r, dx, 0);
-        if (p.flags & kFollowBottom)
-            OffsetRect(&r, 0, dy);
-        if (p.flags & kStretchRight)
-            r.right = r.right + dx > r.left ? r.right + dx : r.left + 1;
-        if (p.flags & kStretchDown)
-            r.bottom = r.bottom + dy > r.top ? r.bottom + dy : r.top + 1;
-        MoveWindow(p.control, r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
-    }
-}
-
 INT_PTR FullScreenDialog::Run(HWND owner, const DialogTemplates& templates) {
     return RunDialog(owner, templates, Proc, reinterpret_cast<LPARAM>(this));
 }
 
-bool FullScreenDialog::Init(HWND dialog) {
+void FullScreenDialog::Place(HWND dialog) const {
     size_t count = 0;
-    const ControlAnchor* anchors = Anchors(&count);
-    m_anchors.Capture(dialog, anchors, count);
+    const ControlPlace* places = Places(&count);
+    PlaceControls(dialog, places, count);
+}
+
+bool FullScreenDialog::Init(HWND dialog) {
     if (!InitFullScreenDialog(dialog) || !AddEmptyMenuBar(dialog))
         return false;
+    Place(dialog);
     OnInit(dialog);
     return true;
 }
@@ -63,7 +32,7 @@ INT_PTR CALLBACK FullScreenDialog::Proc(HWND dialog, UINT msg, WPARAM wParam, LP
         return FALSE; // OnInit sets the focus
     case WM_SIZE:
         if (self)
-            self->m_anchors.Apply(dialog);
+            self->Place(dialog);
         return TRUE;
     case WM_COMMAND:
         if (!self)

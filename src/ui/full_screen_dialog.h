@@ -1,49 +1,18 @@
-// A modal dialog sized to the whole screen, and the anchoring that keeps its controls placed.
+// A modal dialog sized to the whole screen, its controls placed by a table of 96-dpi places.
 #pragma once
 
 #include <windows.h>
 
 #include <cstddef>
-#include <vector>
 
+#include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
 
 namespace cv2 {
 
-// How a control follows the dialog's size: its right or bottom edge stretches, or the whole
-// control moves along, with the dialog's right or bottom edge.
-enum AnchorFlags : unsigned {
-    kStretchRight = 1,
-    kStretchDown = 2,
-    kFollowRight = 4,
-    kFollowBottom = 8,
-};
-
-struct ControlAnchor {
-    int id;
-    unsigned flags;
-};
-
-// Keeps the controls of a template placed on a dialog that is sized to the screen: the
-// template's layout is recorded once and every later size is applied to it by the anchors.
-class DialogAnchors {
-  public:
-    void Capture(HWND dialog, const ControlAnchor* anchors, size_t count);
-    void Apply(HWND dialog) const;
-
-  private:
-    struct Placed {
-        HWND control;
-        unsigned flags;
-        RECT rect;
-    };
-    std::vector<Placed> m_controls;
-    SIZE m_client = {0, 0};
-};
-
 // A modal dialog sized to the whole screen, above an empty menu bar. The common parts are done
-// here: the shell calls (the dialog does not open when one fails), the anchored layout and
-// Cancel; a dialog adds its own set-up and commands.
+// here: the shell calls (the dialog does not open when one fails), placing the controls at every
+// size and Cancel; a dialog adds its own set-up and commands.
 class FullScreenDialog {
   public:
     virtual ~FullScreenDialog() = default;
@@ -52,7 +21,7 @@ class FullScreenDialog {
     INT_PTR Run(HWND owner, const DialogTemplates& templates);
 
   protected:
-    virtual const ControlAnchor* Anchors(size_t* count) const = 0;
+    virtual const ControlPlace* Places(size_t* count) const = 0;
     virtual void OnInit(HWND dialog) = 0;
     // Every command but Cancel.
     virtual void OnCommand(HWND dialog, WORD id, WORD code) = 0;
@@ -60,7 +29,7 @@ class FullScreenDialog {
   private:
     static INT_PTR CALLBACK Proc(HWND dialog, UINT msg, WPARAM wParam, LPARAM lParam);
     bool Init(HWND dialog);
-    DialogAnchors m_anchors;
+    void Place(HWND dialog) const;
 };
 
 // Sets the text of a dialog's control from the string table.

@@ -145,6 +145,28 @@ void PageHost::Paint() {
     EndPaint(m_hwnd, &ps);
 }
 
+bool PageHost::HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+    result = 0;
+    switch (msg) {
+    case WM_SIZE:
+        DispatchSize(LOWORD(lParam), HIWORD(lParam));
+        return true;
+    case WM_ERASEBKGND:
+        result = 1; // WM_PAINT covers every pixel from its off-screen bitmap
+        return true;
+    case WM_PAINT:
+        Paint();
+        return true;
+    case WM_LBUTTONDOWN:
+        TrackPageMenu(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+        return true;
+    case WM_NOTIFY:
+        DispatchNotify(wParam, lParam);
+        return false;
+    }
+    return false;
+}
+
 bool PageHost::DispatchCommand(WPARAM wParam, LPARAM lParam) {
     for (SettingsPage* page : m_pages) {
         if (page && page->OnCommand(wParam, lParam))

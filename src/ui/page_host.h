@@ -32,6 +32,11 @@ class PageHost {
     void Paint();
     void PaintHeader(HDC dc, const RECT& client) const;
 
+    // The window messages both hosts answer alike: sizes, background and painting, the tap on
+    // the header strip, notifications. True when the message is answered (`result` then holds
+    // the answer); notifications go to every page and still get default processing.
+    bool HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam, LRESULT& result);
+
     // Offers a command to the pages in order until one takes it.
     bool DispatchCommand(WPARAM wParam, LPARAM lParam);
     void DispatchNotify(WPARAM wParam, LPARAM lParam);

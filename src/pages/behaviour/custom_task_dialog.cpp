@@ -9,12 +9,17 @@
 namespace cv2 {
 namespace {
 
-const ControlAnchor kAnchors[] = {
-    {IDC_TASK_TEXT_CAPTION, kStretchRight},   {IDC_TASK_TEXT, kStretchRight},
-    {IDC_TASK_BROWSE, kFollowRight},          {IDC_TASK_ACTION_CAPTION, kStretchRight},
-    {IDC_TASK_ACTION_1, kStretchRight},       {IDC_TASK_ACTION_2, kStretchRight},
-    {IDC_TASK_ACTION_3, kStretchRight},       {IDOK, kFollowRight | kFollowBottom},
-    {IDCANCEL, kFollowRight | kFollowBottom},
+// The fields stretch across the screen; OK and Cancel keep to its bottom right corner.
+const ControlPlace kPlaces[] = {
+    {IDC_TASK_TEXT_CAPTION, From::Left, 6, From::Right, -7, 7, 15},
+    {IDC_TASK_TEXT, From::Left, 6, From::Right, -76, 24, 21},
+    {IDC_TASK_BROWSE, From::Right, -70, From::Right, -7, 24, 21},
+    {IDC_TASK_ACTION_CAPTION, From::Left, 6, From::Right, -7, 57, 15},
+    {IDC_TASK_ACTION_1, From::Left, 12, From::Right, -7, 76, 16},
+    {IDC_TASK_ACTION_2, From::Left, 12, From::Right, -7, 96, 16},
+    {IDC_TASK_ACTION_3, From::Left, 12, From::Right, -7, 115, 16},
+    {IDOK, From::Right, -157, From::Right, -85, -30, 23, FromY::Bottom},
+    {IDCANCEL, From::Right, -79, From::Right, -7, -30, 23, FromY::Bottom},
 };
 
 const int kActionRadios[3] = {IDC_TASK_ACTION_1, IDC_TASK_ACTION_2, IDC_TASK_ACTION_3};
@@ -34,9 +39,9 @@ class CustomTaskDialog : public FullScreenDialog {
     const RuleRecord& Record() const { return m_record; }
 
   protected:
-    const ControlAnchor* Anchors(size_t* count) const override {
-        *count = sizeof kAnchors / sizeof kAnchors[0];
-        return kAnchors;
+    const ControlPlace* Places(size_t* count) const override {
+        *count = sizeof kPlaces / sizeof kPlaces[0];
+        return kPlaces;
     }
 
     void OnInit(HWND dialog) override {

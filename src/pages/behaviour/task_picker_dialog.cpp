@@ -12,20 +12,21 @@ namespace {
 
 const DialogTemplates kPickerTemplates = {IDD_TASK_PICKER, IDD_TASK_PICKER_WIDE, 0};
 
-// Portrait and square screens: the buttons stay under the list.
-const ControlAnchor kTallAnchors[] = {
-    {IDC_TASK_PICKER_LABEL, kStretchRight},
-    {IDC_TASK_PICKER_LIST, kStretchRight | kStretchDown},
-    {IDOK, kFollowRight | kFollowBottom},
-    {IDCANCEL, kFollowRight | kFollowBottom},
+// Portrait and square screens: the list fills the screen above the buttons, which keep to its
+// bottom right corner.
+const ControlPlace kTallPlaces[] = {
+    {IDC_TASK_PICKER_LABEL, From::Left, 6, From::Right, -7, 7, 15},
+    {IDC_TASK_PICKER_LIST, From::Left, 6, From::Right, -7, 24, -39, FromY::Top, true},
+    {IDOK, From::Right, -157, From::Right, -85, -30, 23, FromY::Bottom},
+    {IDCANCEL, From::Right, -79, From::Right, -7, -30, 23, FromY::Bottom},
 };
 
-// Landscape screens: the buttons stay beside the list.
-const ControlAnchor kWideAnchors[] = {
-    {IDC_TASK_PICKER_LABEL, kStretchRight},
-    {IDC_TASK_PICKER_LIST, kStretchRight | kStretchDown},
-    {IDOK, kFollowRight},
-    {IDCANCEL, kFollowRight},
+// Landscape screens: the buttons stay beside the list, at the right edge.
+const ControlPlace kWidePlaces[] = {
+    {IDC_TASK_PICKER_LABEL, From::Left, 6, From::Right, -85, 7, 15},
+    {IDC_TASK_PICKER_LIST, From::Left, 6, From::Right, -85, 24, -8, FromY::Top, true},
+    {IDOK, From::Right, -79, From::Right, -7, 24, 23},
+    {IDCANCEL, From::Right, -79, From::Right, -7, 54, 23},
 };
 
 class TaskPicker : public FullScreenDialog {
@@ -35,10 +36,10 @@ class TaskPicker : public FullScreenDialog {
     const std::wstring& Choice() const { return m_choice; }
 
   protected:
-    const ControlAnchor* Anchors(size_t* count) const override {
-        *count = m_wide ? sizeof kWideAnchors / sizeof kWideAnchors[0]
-                        : sizeof kTallAnchors / sizeof kTallAnchors[0];
-        return m_wide ? kWideAnchors : kTallAnchors;
+    const ControlPlace* Places(size_t* count) const override {
+        *count = m_wide ? sizeof kWidePlaces / sizeof kWidePlaces[0]
+                        : sizeof kTallPlaces / sizeof kTallPlaces[0];
+        return m_wide ? kWidePlaces : kTallPlaces;
     }
 
     void OnInit(HWND dialog) override {

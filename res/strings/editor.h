@@ -1,0 +1,13 @@
+// Texts of the theme editor, its image panel, the theme information dialog and the Import
+// Theme page.
+CV_STRING(IDS_IMPORT_THEME, 136, L"Import Theme")
+CV_STRING(IDS_EXPORT_THEME, 137, L"Export Theme")
+CV_STRING(IDS_SKIN_FILTER, 138, L"Skin Files|*.skin|All Files|*.*")
+CV_STRING(IDS_THEME_NAME, 249, L"Theme Name:")
+CV_STRING(IDS_THEME_AUTHOR, 250, L"Author:")
+CV_STRING(IDS_THEME_EMAIL, 251, L"E-Mail Address:")
+CV_STRING(IDS_THEME_PATH, 252, L"File Path:")
+CV_STRING(IDS_THEME_HIRES, 253, L"This theme is hi-res")
+CV_STRING(IDS_PANEL_SETTINGS, 275, L"Settings")
+CV_STRING(IDS_PANEL_CUSTOM_COLORS, 276, L"Use Custom Colors")
+CV_STRING(IDS_THEME_INFO_TITLE, 1250, L"Theme Information")

@@ -9,6 +9,7 @@
 #include "pages/behaviour/rule_pages.h"
 #include "pages/behaviour/start_menu_settings_page.h"
 #include "themes/overrides_page.h"
+#include "themes/theme_catalogue_page.h"
 
 namespace cv2 {
 
@@ -20,8 +21,13 @@ template <class Page> SettingsPage* Make() {
 std::vector<SettingsPage*> CreateMainPages() {
     std::vector<SettingsPage*> pages;
     // "My Theme"
-    // "Program Directories"
-    pages.push_back(Make<ProgramDirectoriesPage>());
+    auto* catalogue = new (std::nothrow) ThemeCataloguePage();
+    pages.push_back(catalogue);
+    // "Program Directories": saving new theme folders lists the themes in them.
+    auto* directories = new (std::nothrow) ProgramDirectoriesPage();
+    if (directories && catalogue)
+        directories->SetThemesReload([catalogue] { catalogue->Reload(); });
+    pages.push_back(directories);
     // "General Settings"
     pages.push_back(Make<GeneralSettingsPage>());
     // "Start Menu Settings"

@@ -2,6 +2,7 @@
 // the POSIX implementation maps them to '/' so the same code and tests run natively and under Wine.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,26 @@ bool FileExists(const std::wstring& path);
 
 // Removes a file; false when it did not exist or could not be removed.
 bool RemoveFile(const std::wstring& path);
+
+// Names (not paths) of the folders directly inside `folder`, without "." and "..", in the order
+// the file system gives them. Empty when the folder cannot be listed.
+std::vector<std::wstring> ListSubfolders(const std::wstring& folder);
+
+// Names of the files (not folders) directly inside `folder` whose name matches `pattern`, where
+// '*' stands for any run of characters and '?' for one, letters compared without regard to case
+// ("*.skin"). Empty when the folder cannot be listed.
+std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstring& pattern);
+
+// Removes the folder with every file and sub-folder in it. Goes on past anything that cannot be
+// removed and leaves it in place; true when the folder is gone in the end.
+bool RemoveFolderTree(const std::wstring& folder);
+
+// The file system's attribute bits of a file or folder, with the platform's values (read-only
+// 0x1, folder 0x10, temporary 0x100, ...); kNoFileAttributes when the query fails.
+constexpr uint32_t kNoFileAttributes = 0xFFFFFFFFu;
+constexpr uint32_t kAttributeFolder = 0x10;
+constexpr uint32_t kAttributeTemporary = 0x100;
+uint32_t FileAttributes(const std::wstring& path);
 
 // The platform's text-mode line end: "\r\n" on Windows, "\n" elsewhere.
 const char* TextLineEnd();

@@ -2,11 +2,13 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <dirent.h>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/write_fault.h"
+#include "store/paths.h"
 #include "store/text_codec.h"
 
 namespace cv2 {
@@ -23,7 +25,102 @@ std::string HostPath(const std::wstring& path) {
     return EncodeUtf8(slashed);
 }
 
+// A host file name back as wide text. Bytes that are not valid UTF-8 are taken one by one as
+// Latin-1 characters; such a name then does not lead back to its file, and the file is skipped
+// by whoever tries to open it.
+std::wstring WideName(const char* name) {
+    std::wstring wide;
+    const unsigned char* p = reinterpret_cast<const unsigned char*>(name);
+    while (*p) {
+        const unsigned lead = *p;
+        const int extra = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0 ? 1 : 0;
+        unsigned value = extra == 3 ? lead & 0x07 : extra == 2 ? lead & 0x0F : lead & 0x1F;
+        int i = 1;
+        for (; extra > 0 && i <= extra && (p[i] & 0xC0) == 0x80; ++i)
+            value = (value << 6) | (p[i] & 0x3F);
+        if (extra == 0 || i <= extra) {
+            wide += static_cast<wchar_t>(lead);
+            ++p;
+        } else {
+            wide += static_cast<wchar_t>(value);
+            p += extra + 1;
+        }
+    }
+    return wide;
+}
+
+enum class EntryKind { Folder, File, Other };
+
+// Symbolic links are not followed: a link is removed as a link, never what it points to.
+EntryKind KindOf(const std::string& hostPath, bool followLinks) {
+    struct stat st;
+    const int got = followLinks ? ::stat(hostPath.c_str(), &st) : ::lstat(hostPath.c_str(), &st);
+    if (got != 0)
+        return EntryKind::Other;
+    return S_ISDIR(st.st_mode) ? EntryKind::Folder : EntryKind::File;
+}
+
+struct FolderEntry {
+    std::wstring name;
+    EntryKind kind;
+};
+
+// Every entry of the folder but "." and "..", read completely before anyone changes the folder.
+std::vector<FolderEntry> Entries(const std::wstring& folder, bool followLinks) {
+    std::vector<FolderEntry> entries;
+    const std::string host = HostPath(FolderWithSlash(folder));
+    DIR* dir = ::opendir(host.c_str());
+    if (!dir)
+        return entries;
+    while (const dirent* entry = ::readdir(dir)) {
+        const std::string name = entry->d_name;
+        if (name != "." && name != "..")
+            entries.push_back({WideName(entry->d_name), KindOf(host + name, followLinks)});
+    }
+    ::closedir(dir);
+    return entries;
+}
+
 } // namespace
+
+std::vector<std::wstring> ListSubfolders(const std::wstring& folder) {
+    std::vector<std::wstring> names;
+    for (const FolderEntry& e : Entries(folder, true)) {
+        if (e.kind == EntryKind::Folder)
+            names.push_back(e.name);
+    }
+    return names;
+}
+
+std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstring& pattern) {
+    std::vector<std::wstring> names;
+    for (const FolderEntry& e : Entries(folder, true)) {
+        if (e.kind == EntryKind::File && MatchesPattern(e.name, pattern))
+            names.push_back(e.name);
+    }
+    return names;
+}
+
+bool RemoveFolderTree(const std::wstring& folder) {
+    const std::wstring base = FolderWithSlash(folder);
+    for (const FolderEntry& e : Entries(folder, false)) {
+        if (e.kind == EntryKind::Folder)
+            RemoveFolderTree(base + e.name);
+        else
+            ::unlink(HostPath(base + e.name).c_str());
+    }
+    return ::rmdir(HostPath(folder).c_str()) == 0;
+}
+
+uint32_t FileAttributes(const std::wstring& path) {
+    struct stat st;
+    if (::stat(HostPath(path).c_str(), &st) != 0)
+        return kNoFileAttributes;
+    if (S_ISDIR(st.st_mode))
+        return kAttributeFolder;
+    // The Windows value of a plain file without other attributes.
+    return 0x80;
+}
 
 bool ReadWholeFile(const std::wstring& path, Bytes& out) {
     out.clear();

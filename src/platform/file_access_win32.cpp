@@ -3,8 +3,37 @@
 #include <windows.h>
 
 #include "platform/write_fault.h"
+#include "store/paths.h"
 
 namespace cv2 {
+namespace {
+
+struct FolderEntry {
+    std::wstring name;
+    DWORD attributes;
+};
+
+// Every entry of the folder but "." and "..", read completely before anyone changes the folder.
+std::vector<FolderEntry> Entries(const std::wstring& folder) {
+    std::vector<FolderEntry> entries;
+    WIN32_FIND_DATAW found;
+    HANDLE find = FindFirstFileW((FolderWithSlash(folder) + L"*.*").c_str(), &found);
+    if (find == INVALID_HANDLE_VALUE)
+        return entries;
+    do {
+        const std::wstring name = found.cFileName;
+        if (name != L"." && name != L"..")
+            entries.push_back({name, found.dwFileAttributes});
+    } while (FindNextFileW(find, &found));
+    FindClose(find);
+    return entries;
+}
+
+bool IsFolder(DWORD attributes) {
+    return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+} // namespace
 
 bool ReadWholeFile(const std::wstring& path, Bytes& out) {
     out.clear();
@@ -87,6 +116,45 @@ bool FileExists(const std::wstring& path) {
 }
 
 bool RemoveFile(const std::wstring& path) { return DeleteFileW(path.c_str()) != 0; }
+
+std::vector<std::wstring> ListSubfolders(const std::wstring& folder) {
+    std::vector<std::wstring> names;
+    for (const FolderEntry& e : Entries(folder)) {
+        if (IsFolder(e.attributes))
+            names.push_back(e.name);
+    }
+    return names;
+}
+
+// The whole folder is listed and matched here rather than by the file system, so that every
+// platform matches the same names.
+std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstring& pattern) {
+    std::vector<std::wstring> names;
+    for (const FolderEntry& e : Entries(folder)) {
+        if (!IsFolder(e.attributes) && MatchesPattern(e.name, pattern))
+            names.push_back(e.name);
+    }
+    return names;
+}
+
+// A linked folder (reparse point) is removed as a link; what it points to stays.
+bool RemoveFolderTree(const std::wstring& folder) {
+    const std::wstring base = FolderWithSlash(folder);
+    for (const FolderEntry& e : Entries(folder)) {
+        const std::wstring path = base + e.name;
+        if (!IsFolder(e.attributes))
+            DeleteFileW(path.c_str());
+        else if (e.attributes & FILE_ATTRIBUTE_REPARSE_POINT)
+            RemoveDirectoryW(path.c_str());
+        else
+            RemoveFolderTree(path);
+    }
+    return RemoveDirectoryW(folder.c_str()) != 0;
+}
+
+uint32_t FileAttributes(const std::wstring& path) {
+    return GetFileAttributesW(path.c_str());
+}
 
 const char* TextLineEnd() { return "\r\n"; }
 

@@ -42,14 +42,6 @@ std::wstring Clean(TextRange text) {
     return std::wstring(text.begin + begin, end - begin);
 }
 
-// The form under which EqualsNoCase finds two names equal.
-std::wstring Folded(const std::wstring& text) {
-    std::wstring folded = text;
-    for (wchar_t& c : folded)
-        c = FoldCase(c);
-    return folded;
-}
-
 enum class ParseState { Idle, SectionName, Comment, Key, Value };
 
 // Sections with at most this many keys are searched key by key rather than through an index.
@@ -355,17 +347,18 @@ void IniDocument::DeleteSections(const std::vector<std::wstring>& names) {
     // How many more sections of each folded name are still to go.
     std::unordered_map<std::wstring, size_t> pending;
     for (const std::wstring& name : names)
-        ++pending[Folded(name)];
+        ++pending[Folded(name.c_str())];
     std::vector<Section> kept;
     kept.reserve(m_sections.size());
     for (Section& s : m_sections) {
-        auto it = pending.find(Folded(s.name));
+        auto it = pending.find(Folded(s.name.c_str()));
         if (it != pending.end() && it->second > 0)
             --it->second;
         else
             kept.push_back(std::move(s));
     }
     m_sections = std::move(kept);
+    DropIndex();
 }
 
 void IniDocument::EmptySection(const wchar_t* section) {

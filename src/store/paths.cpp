@@ -1,5 +1,7 @@
 #include "store/paths.h"
 
+#include "store/ini_document.h"
+
 namespace cv2 {
 
 bool IsAbsolutePath(const std::wstring& path) {
@@ -27,6 +29,31 @@ std::wstring CutToBuffer(const std::wstring& text, size_t bufferChars) {
     if (bufferChars == 0)
         return std::wstring();
     return text.size() < bufferChars ? text : text.substr(0, bufferChars - 1);
+}
+
+// Greedy matching that goes back only to the last '*': linear in practice, and never
+// exponential however many stars a pattern holds.
+bool MatchesPattern(const std::wstring& name, const std::wstring& pattern) {
+    size_t n = 0, p = 0;
+    size_t starAt = std::wstring::npos, resumeAt = 0;
+    while (n < name.size()) {
+        if (p < pattern.size() && pattern[p] == L'*') {
+            starAt = p++;
+            resumeAt = n;
+        } else if (p < pattern.size() &&
+                   (pattern[p] == L'?' || FoldCase(pattern[p]) == FoldCase(name[n]))) {
+            ++n;
+            ++p;
+        } else if (starAt != std::wstring::npos) {
+            p = starAt + 1;
+            n = ++resumeAt;
+        } else {
+            return false;
+        }
+    }
+    while (p < pattern.size() && pattern[p] == L'*')
+        ++p;
+    return p == pattern.size();
 }
 
 } // namespace cv2

@@ -20,4 +20,8 @@ std::wstring FolderWithSlash(const std::wstring& folder);
 // Cuts a text the way a fixed buffer of `bufferChars` characters would hold it.
 std::wstring CutToBuffer(const std::wstring& text, size_t bufferChars);
 
+// True when `name` matches `pattern`, where '*' stands for any run of characters and '?' for
+// exactly one; letters compare without regard to case, as the file system compares names.
+bool MatchesPattern(const std::wstring& name, const std::wstring& pattern);
+
 } // namespace cv2

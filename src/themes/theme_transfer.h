@@ -5,7 +5,8 @@
 // Import (after loading the chosen file into a document of its own):
 //     IniDocument chosen;
 //     chosen.Load(path);                  // a missing or unreadable file stays empty
-//     ImportTheme(edited, chosen, colors); // then send "UpdateCV2xTheme"
+//     ImportTheme(edited, chosen, DeviceOlderThemeColors()); // then send "UpdateCV2xTheme"
+// (DeviceOlderThemeColors is in themes/older_theme_device.h, Win32 only.)
 //
 // Export (after the pages have saved themselves into `exported` through "ExportCV2xTheme"):
 //     FinishExport(exported, edited);

@@ -36,6 +36,14 @@ class TempFolder {
     }
     std::wstring File(const std::wstring& name) const { return Path() + name; }
 
+    // Creates a folder and its parents inside this one; `name` uses backslashes.
+    void MakeFolder(const std::wstring& name) const {
+        std::filesystem::create_directories(Inside(name));
+    }
+    bool HasFolder(const std::wstring& name) const {
+        std::error_code ec;
+        return std::filesystem::is_directory(Inside(name), ec);
+    }
     void Write(const std::wstring& name, const std::string& bytes) const {
         cv2::WriteFileReplacing(File(name), cv2::Bytes(bytes.begin(), bytes.end()));
     }
@@ -47,6 +55,14 @@ class TempFolder {
 
   private:
     static long Pid();
+    std::filesystem::path Inside(const std::wstring& name) const {
+        std::wstring relative = name;
+        for (wchar_t& c : relative) {
+            if (c == L'\\')
+                c = L'/';
+        }
+        return m_dir / std::filesystem::path(relative);
+    }
     std::filesystem::path m_dir;
 };
 

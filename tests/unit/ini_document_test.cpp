@@ -307,3 +307,16 @@ TEST(IniDocument, DeleteSectionsTakesTheFirstMatchOncePerName) {
     doc.DeleteSections({L"a", L"B", L"b", L"missing"});
     EXPECT_EQ(doc.Serialize(), Lines("[a]\n\n[C]\n\n[B]\n\n"));
 }
+
+TEST(IniDocument, LookUpsAfterDeleteSectionsSeeTheRemainingSections) {
+    std::string text;
+    for (int i = 0; i < 20; ++i)
+        text += "[S" + std::to_string(i) + "]\nk=" + std::to_string(i) + "\n";
+    IniDocument doc = Parsed(text);
+    EXPECT_EQ(Value(doc, L"S5", L"k"), L"5");
+    doc.DeleteSections({L"S1", L"S5"});
+    EXPECT_EQ(Value(doc, L"S5", L"k"), L"<missing>");
+    EXPECT_EQ(Value(doc, L"S6", L"k"), L"6");
+    doc.SetString(L"S5", L"k", L"new");
+    EXPECT_EQ(Value(doc, L"S5", L"k"), L"new");
+}

@@ -37,3 +37,9 @@ TEST(Paths, CutToBufferKeepsRoomForTheTerminator) {
     EXPECT_EQ(CutToBuffer(L"abc", 5), L"abc");
     EXPECT_EQ(CutToBuffer(L"abc", 0), L"");
 }
+
+TEST(Paths, QuestionMarkStandsForExactlyOneCharacter) {
+    EXPECT_TRUE(MatchesPattern(L"ab", L"a?"));
+    EXPECT_FALSE(MatchesPattern(L"a", L"a?"));
+    EXPECT_FALSE(MatchesPattern(L"abc", L"a?"));
+}

@@ -1,0 +1,36 @@
+// Fuzz target: importing any theme file into any config.ini. The input is split at its first
+// NUL byte: the theme before it, the config.ini after it (all of it is the theme when there is
+// none). Current themes are merged, older ones converted; nothing may crash, and a current
+// theme's "Skin Info" keys must arrive.
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "themes/theme_transfer.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const uint8_t* split = std::find(data, data + size, 0);
+    cv2::IniDocument chosen;
+    chosen.Parse(data, static_cast<size_t>(split - data));
+    cv2::IniDocument edited;
+    if (split != data + size)
+        edited.Parse(split + 1, static_cast<size_t>(data + size - split - 1));
+    const bool current = cv2::IsCurrentFormat(chosen);
+    const cv2::ImportedAs as = cv2::ImportTheme(edited, chosen, {1, 2, 3});
+    if ((as == cv2::ImportedAs::CurrentFormat) != current)
+        std::abort();
+    // The merge writes keys: a "Skin Info" without any arrives as no section at all.
+    if (current && !chosen.GetSectionEntries(L"Skin Info").empty() &&
+        !edited.HasSection(L"Skin Info"))
+        std::abort();
+    if (current && edited.HasSection(L"Custom Notifications") &&
+        !chosen.HasSection(L"Custom Notifications"))
+        std::abort();
+    cv2::IniDocument exported;
+    cv2::FinishExport(exported, edited);
+    const std::string text = edited.Serialize();
+    cv2::IniDocument again;
+    again.Parse(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+    return 0;
+}

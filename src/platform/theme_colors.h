@@ -1,0 +1,13 @@
+// The device's theme colours, read from the registry (the table and its fall-backs are in
+// themes/theme_color_table.h). Every page and conversion that needs them asks here.
+#pragma once
+
+#include "ui/pickers/color_value.h"
+
+namespace cv2 {
+
+// Theme colour `index` (0 to 7) of the device, or its fall-back when the registry does not have
+// it; 0 for any other index. Never fails.
+ColorRef DeviceThemeColor(int index);
+
+} // namespace cv2

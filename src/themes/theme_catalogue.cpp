@@ -1,0 +1,97 @@
+#include "themes/theme_catalogue.h"
+
+#include "platform/file_access.h"
+#include "store/paths.h"
+
+namespace cv2 {
+namespace {
+
+const wchar_t kSkinInfo[] = L"Skin Info";
+
+} // namespace
+
+ThemeEntry ReadThemeEntry(const std::wstring& skinPath) {
+    ThemeEntry entry;
+    entry.path = CutToBuffer(skinPath, kMaxPath);
+    IniDocument theme;
+    theme.Load(entry.path);
+    entry.isCurrentFormat = theme.HasSection(kSkinInfo);
+    if (!entry.isCurrentFormat)
+        return entry;
+    entry.author = theme.GetString(kSkinInfo, L"Author", L"", kThemeAuthorChars);
+    entry.authorEmail = theme.GetString(kSkinInfo, L"AuthorEmail", L"", kThemeEmailChars);
+    entry.name = theme.GetString(kSkinInfo, L"Name", L"", kThemeNameChars);
+    entry.notes = theme.GetString(kSkinInfo, L"Notes", L"", kThemeNotesChars);
+    entry.hiRes = theme.GetBool(kSkinInfo, L"HiRes", false);
+    return entry;
+}
+
+void ScanThemeFolder(const std::wstring& folder, std::vector<ThemeEntry>& found) {
+    const std::wstring base = FolderWithSlash(folder);
+    for (const std::wstring& file : ListFiles(folder, L"*.skin"))
+        found.push_back(ReadThemeEntry(base + file));
+}
+
+namespace {
+
+void ScanSubfolders(const std::wstring& folder, std::vector<ThemeEntry>& found) {
+    const std::wstring base = FolderWithSlash(folder);
+    for (const std::wstring& sub : ListSubfolders(folder))
+        ScanThemeFolder(base + sub, found);
+}
+
+} // namespace
+
+std::vector<ThemeEntry> ScanThemes(const std::wstring& exeFolder, const IniDocument& config) {
+    std::vector<ThemeEntry> found;
+    ScanSubfolders(FolderWithSlash(exeFolder) + L"Themes\\", found);
+    for (const IniDocument::EntryRef& e : config.GetSectionEntries(L"Theme Directories")) {
+        const std::wstring folder = CutToBuffer(e.second, kMaxPath);
+        if (!folder.empty())
+            ScanSubfolders(folder, found);
+    }
+    return found;
+}
+
+std::wstring FileTitle(const std::wstring& path) {
+    const size_t slash = path.find_last_of(L'\\');
+    std::wstring name = slash == std::wstring::npos ? path : path.substr(slash + 1);
+    const size_t dot = name.find_last_of(L'.');
+    return dot == std::wstring::npos ? name : name.substr(0, dot);
+}
+
+std::wstring ThemeDisplayText(const ThemeEntry& entry, const std::wstring& olderPrefix) {
+    if (!entry.isCurrentFormat)
+        return olderPrefix + FileTitle(entry.path);
+    return entry.name.empty() ? FileTitle(entry.path) : entry.name;
+}
+
+std::wstring ThemeDetailsText(const ThemeEntry& entry) {
+    std::wstring text = L"Author: " + entry.author + L"\r\nE-Mail: " + entry.authorEmail +
+                        L"\r\nHiRes: " + (entry.hiRes ? L"Yes" : L"No") + L"\r\n";
+    if (!entry.notes.empty())
+        text += L"\r\nNotes: \r\n" + entry.notes;
+    return text;
+}
+
+std::wstring DefaultThemeFile(const std::wstring& exeFolder) {
+    return FolderWithSlash(exeFolder) + L"Themes\\CVDefault\\CVDefault.skin";
+}
+
+std::wstring CardFolder(const std::wstring& themePath) {
+    const size_t last = themePath.find_last_of(L'\\');
+    const std::wstring folder =
+        last == std::wstring::npos ? std::wstring() : themePath.substr(0, last);
+    const size_t first = folder.find(L'\\', 1);
+    return first == std::wstring::npos ? folder : folder.substr(0, first);
+}
+
+bool IsCardAttributes(uint32_t attributes) {
+    return (attributes & kAttributeTemporary) != 0;
+}
+
+bool ThemeOnCard(const std::wstring& themePath) {
+    return IsCardAttributes(FileAttributes(CardFolder(themePath)));
+}
+
+} // namespace cv2

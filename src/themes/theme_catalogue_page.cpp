@@ -1,0 +1,294 @@
+#include "themes/theme_catalogue_page.h"
+
+#include "app/exe_folder.h"
+#include "ids_themes.h"
+#include "platform/file_access.h"
+#include "store/paths.h"
+#include "store/scale.h"
+#include "store/screen.h"
+#include "themes/older_theme.h"
+#include "themes/older_theme_device.h"
+#include "themes/theme_editor.h"
+#include "ui/child_controls.h"
+#include "ui/shared_fonts.h"
+
+namespace cv2 {
+namespace {
+
+// In creation order; the "Details" button is made by OnSize, on square screens only.
+const ChildControl kControls[ThemeCataloguePage::DetailsButton] = {
+    {L"LISTBOX", WS_BORDER | WS_VSCROLL | WS_TABSTOP | LBS_SORT | LBS_NOTIFY, 0, StringId(0),
+     IDC_THEMES_LIST},
+    {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_CUSTOMIZE, IDC_THEMES_CUSTOMIZE},
+    {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_DELETE, IDC_THEMES_DELETE},
+    {L"EDIT", WS_BORDER | ES_MULTILINE | ES_READONLY, 0, StringId(0), IDC_THEMES_DETAILS},
+};
+const ChildControl kDetailsButton = {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_THEME_DETAILS,
+                                     IDC_THEMES_DETAILS_BUTTON};
+
+// The details box shows at most this much of the details.
+constexpr int kDetailsBoxChars = 1024;
+
+class WaitCursor {
+  public:
+    WaitCursor() : m_old(SetCursor(LoadCursorW(nullptr, IDC_WAIT))) {}
+    ~WaitCursor() { SetCursor(m_old); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+  private:
+    HCURSOR m_old;
+};
+
+LRESULT Send(HWND window, UINT msg, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return SendMessageW(window, msg, wParam, lParam);
+}
+
+// The edit gets a scroll bar only when there are notes to scroll through.
+void SetVerticalScrollBar(HWND edit, bool on) {
+    const LONG_PTR style = GetWindowLongPtrW(edit, GWL_STYLE);
+    const LONG_PTR wanted =
+        on ? (style | WS_VSCROLL) : (style & ~static_cast<LONG_PTR>(WS_VSCROLL));
+    if (wanted == style)
+        return;
+    SetWindowLongPtrW(edit, GWL_STYLE, wanted);
+    SetWindowPos(edit, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+} // namespace
+
+ThemeCataloguePage::ThemeCataloguePage() : ThemeCataloguePage(ExeFolder()) {}
+
+ThemeCataloguePage::ThemeCataloguePage(const std::wstring& programFolder)
+    : SettingsPage(IDS_MY_THEME), m_programFolder(FolderWithSlash(programFolder)) {}
+
+ThemeCataloguePage::~ThemeCataloguePage() {
+    OnDestroy();
+}
+
+void ThemeCataloguePage::Place(Control c, int left, int top, int width, int height) const {
+    MoveWindow(m_controls[c], ScaleX(left), Scale(top), ScaleX(width), Scale(height), TRUE);
+}
+
+void ThemeCataloguePage::Create(HWND host) {
+    m_host = host;
+    CreateChildControls(host, kControls, DetailsButton, m_controls);
+    SetControlFont(m_controls[Customize], CaptionFont());
+    SetControlFont(m_controls[Delete], CaptionFont());
+    EnableWindow(m_controls[Customize], FALSE);
+    EnableWindow(m_controls[Delete], FALSE);
+    Place(Customize, 5, 167, 75, 20);
+    Place(Delete, 82, 167, 75, 20);
+    RECT client;
+    GetClientRect(host, &client);
+    OnSize(client);
+}
+
+void ThemeCataloguePage::Show(bool visible) {
+    ShowWindows(m_controls, DetailsText, visible);
+    const bool detailsButton = m_controls[DetailsButton] != nullptr;
+    if (detailsButton)
+        ShowWindow(m_controls[DetailsButton], visible ? SW_SHOW : SW_HIDE);
+    ShowWindow(m_controls[DetailsText], visible && !detailsButton ? SW_SHOW : SW_HIDE);
+}
+
+// Landscape screens put the details beside the list, portrait screens below it; square screens
+// have no room for them and show them in a message box behind a "Details" button. The layout
+// follows the screen, not the window, as the header strip does.
+void ThemeCataloguePage::OnSize(const RECT&) {
+    if (!m_controls[List])
+        return;
+    const bool portraitWidth = IsPortraitWidth(ScreenWidth());
+    const bool square = portraitWidth && IsPortraitWidth(ScreenHeight());
+    if (!portraitWidth) {
+        Place(List, 0, 23, 162, 141);
+        Place(DetailsText, 165, 23, 155, 165);
+    } else {
+        Place(List, 0, 23, 240, 141);
+        Place(DetailsText, 0, 189, 240, 79);
+    }
+    if (square && !m_controls[DetailsButton]) {
+        CreateChildControls(m_host, &kDetailsButton, 1, &m_controls[DetailsButton]);
+        SetControlFont(m_controls[DetailsButton], CaptionFont());
+        Place(DetailsButton, 159, 167, 75, 20);
+        const bool shown = IsWindowVisible(m_controls[List]) != FALSE;
+        ShowWindow(m_controls[DetailsButton], shown ? SW_SHOW : SW_HIDE);
+        ShowWindow(m_controls[DetailsText], SW_HIDE);
+        EnableWindow(m_controls[DetailsButton], Selected() != nullptr);
+    }
+}
+
+void ThemeCataloguePage::Load(IniDocument* doc) {
+    SettingsPage::Load(doc);
+    Reload();
+}
+
+void ThemeCataloguePage::Reload() {
+    if (!m_doc || !m_controls[List])
+        return;
+    Fill();
+    SelectThemeFile();
+}
+
+void ThemeCataloguePage::Fill() {
+    WaitCursor wait;
+    Send(m_controls[List], LB_RESETCONTENT);
+    m_entries.clear();
+    const std::wstring prefix = Localized(IDS_OLDER_THEME_PREFIX);
+    for (ThemeEntry& found : ScanThemes(m_programFolder, *m_doc)) {
+        m_entries.push_back(std::make_unique<ThemeEntry>(std::move(found)));
+        const ThemeEntry* entry = m_entries.back().get();
+        const std::wstring text = ThemeDisplayText(*entry, prefix);
+        const LRESULT row =
+            Send(m_controls[List], LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+        if (row >= 0)
+            Send(m_controls[List], LB_SETITEMDATA, static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(entry));
+    }
+    const LRESULT row =
+        Send(m_controls[List], LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(kCustomThemeText));
+    if (row >= 0)
+        Send(m_controls[List], LB_SETITEMDATA, static_cast<WPARAM>(row), 0);
+}
+
+// The first row whose file is the one config.ini names; the custom theme's file is config.ini.
+// The selection-change notice goes through the host, as a tap's would, so the buttons and the
+// details follow.
+void ThemeCataloguePage::SelectThemeFile() {
+    const std::wstring themeFile =
+        m_doc->GetString(L"Settings", L"Theme File", DefaultThemeFile(m_programFolder).c_str(),
+                         static_cast<int>(kMaxPath));
+    HWND list = m_controls[List];
+    const LRESULT count = Send(list, LB_GETCOUNT);
+    Send(list, LB_SETCURSEL, static_cast<WPARAM>(-1));
+    for (LRESULT row = 0; row < count; ++row) {
+        const auto* entry = reinterpret_cast<const ThemeEntry*>(
+            Send(list, LB_GETITEMDATA, static_cast<WPARAM>(row)));
+        const std::wstring& path = entry ? entry->path : m_doc->Path();
+        if (EqualsNoCase(path.c_str(), themeFile.c_str())) {
+            Send(list, LB_SETCURSEL, static_cast<WPARAM>(row));
+            break;
+        }
+    }
+    PostMessageW(m_host, WM_COMMAND, MAKEWPARAM(IDC_THEMES_LIST, LBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(list));
+}
+
+const ThemeEntry* ThemeCataloguePage::Selected(bool* customTheme) const {
+    if (customTheme)
+        *customTheme = false;
+    const LRESULT row = Send(m_controls[List], LB_GETCURSEL);
+    if (row < 0)
+        return nullptr;
+    const auto* entry = reinterpret_cast<const ThemeEntry*>(
+        Send(m_controls[List], LB_GETITEMDATA, static_cast<WPARAM>(row)));
+    if (customTheme)
+        *customTheme = entry == nullptr;
+    return entry;
+}
+
+void ThemeCataloguePage::OnSelectionChange() {
+    bool customTheme = false;
+    const ThemeEntry* entry = Selected(&customTheme);
+    EnableWindow(m_controls[Customize], customTheme);
+    EnableWindow(m_controls[Delete], entry != nullptr);
+    if (m_controls[DetailsButton])
+        EnableWindow(m_controls[DetailsButton], entry != nullptr);
+    ShowDetails(entry);
+}
+
+void ThemeCataloguePage::ShowDetails(const ThemeEntry* entry) {
+    HWND edit = m_controls[DetailsText];
+    SetVerticalScrollBar(edit, entry && !entry->notes.empty());
+    SetWindowTextW(edit, entry ? ThemeDetailsText(*entry).c_str() : L"");
+}
+
+// Only this page's own controls are taken, by window handle: other pages share the host.
+bool ThemeCataloguePage::OnCommand(WPARAM wParam, LPARAM lParam) {
+    HWND from = reinterpret_cast<HWND>(lParam);
+    if (!from)
+        return false;
+    const WORD code = HIWORD(wParam);
+    if (from == m_controls[List]) {
+        if (code == LBN_SELCHANGE)
+            OnSelectionChange();
+        return true;
+    }
+    if (from == m_controls[DetailsText])
+        return true;
+    if (from != m_controls[Customize] && from != m_controls[Delete] &&
+        (!m_controls[DetailsButton] || from != m_controls[DetailsButton]))
+        return false;
+    if (code != BN_CLICKED)
+        return true;
+    if (from == m_controls[Customize])
+        OpenEditor();
+    else if (from == m_controls[Delete])
+        DeleteSelected();
+    else
+        ShowDetailsBox();
+    return true;
+}
+
+// The editor works on the custom theme, i.e. on config.ini's own document; whether it ended
+// with OK does not matter here (the document holds whatever it saved).
+void ThemeCataloguePage::OpenEditor() {
+    if (!m_doc)
+        return;
+    ThemeEditor editor(m_doc);
+    editor.Run(m_host);
+}
+
+void ThemeCataloguePage::DeleteSelected() {
+    const ThemeEntry* entry = Selected();
+    if (!entry)
+        return;
+    if (MessageBoxW(m_host, Localized(IDS_DELETE_THEME_QUESTION), Localized(IDS_CONFIRM_DELETE),
+                    MB_YESNO | MB_ICONEXCLAMATION) != IDYES)
+        return;
+    WaitCursor wait;
+    // The theme's whole folder goes; what cannot be removed stays, without a message.
+    const size_t slash = entry->path.find_last_of(L'\\');
+    if (slash != std::wstring::npos)
+        RemoveFolderTree(entry->path.substr(0, slash));
+    // "Theme File" keeps naming the deleted theme until the next Apply.
+    Fill();
+    OnSelectionChange();
+}
+
+void ThemeCataloguePage::ShowDetailsBox() const {
+    wchar_t text[kDetailsBoxChars] = {};
+    GetWindowTextW(m_controls[DetailsText], text, kDetailsBoxChars);
+    MessageBoxW(m_host, text, Localized(IDS_THEME_DETAILS), MB_OK);
+}
+
+void ThemeCataloguePage::Save(IniDocument* target) {
+    if ((!target && !m_doc) || !m_controls[List])
+        return;
+    IniDocument& doc = SaveTarget(target);
+    const std::wstring configPath = m_doc ? m_doc->Path() : doc.Path();
+    bool customTheme = false;
+    const ThemeEntry* entry = Selected(&customTheme);
+    if (!entry && !customTheme)
+        return;
+    if (customTheme) {
+        doc.SetString(L"Settings", L"Theme File", configPath.c_str());
+    } else if (entry->isCurrentFormat) {
+        doc.SetString(L"Settings", L"Theme File", entry->path.c_str());
+    } else {
+        // An older theme is converted into config.ini and becomes the custom theme.
+        IniDocument older;
+        older.Load(entry->path);
+        ConvertOlderTheme(older, doc, DeviceOlderThemeColors());
+        doc.SetString(L"Settings", L"Theme File", configPath.c_str());
+    }
+    doc.SetBool(L"Settings", L"Theme On Card", entry && ThemeOnCard(entry->path));
+}
+
+void ThemeCataloguePage::OnDestroy() {
+    DestroyWindows(m_controls, Count);
+    m_entries.clear();
+}
+
+} // namespace cv2

@@ -1,0 +1,58 @@
+// "My Theme", the first page of the main window: every theme on the device in a sorted list,
+// with the details of the selected one, deletion of a theme's folder, the theme editor on the
+// custom theme, and on Apply the chosen theme stored in config.ini.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "themes/theme_catalogue.h"
+#include "ui/settings_page.h"
+
+namespace cv2 {
+
+class ThemeCataloguePage : public SettingsPage {
+  public:
+    // Themes are looked for below programFolder + "Themes\"; by default the program's folder.
+    ThemeCataloguePage();
+    explicit ThemeCataloguePage(const std::wstring& programFolder);
+    ~ThemeCataloguePage() override;
+
+    void Create(HWND host) override;
+    void Show(bool visible) override;
+    void Save(IniDocument* target) override;
+    void OnDestroy() override;
+    bool OnCommand(WPARAM wParam, LPARAM lParam) override;
+    void Load(IniDocument* doc) override;
+    void OnSize(const RECT& client) override;
+
+    // Lists the themes anew and selects the one config.ini names (the theme folders may have
+    // changed). Does nothing before Load.
+    void Reload();
+
+    enum Control { List, Customize, Delete, DetailsText, DetailsButton, Count };
+    HWND Window(Control c) const { return m_controls[c]; }
+
+  private:
+    void Fill();
+    void SelectThemeFile();
+    // The entry of the selected row; null for "Custom Theme" and when nothing is selected.
+    const ThemeEntry* Selected(bool* customTheme = nullptr) const;
+    void OnSelectionChange();
+    void ShowDetails(const ThemeEntry* entry);
+    void OpenEditor();
+    void DeleteSelected();
+    void ShowDetailsBox() const;
+    void Place(Control c, int left, int top, int width, int height) const;
+
+    std::wstring m_programFolder;
+    HWND m_host = nullptr;
+    HWND m_controls[Count] = {};
+    // Owned here; the list rows point at them.
+    std::vector<std::unique_ptr<ThemeEntry>> m_entries;
+};
+
+} // namespace cv2

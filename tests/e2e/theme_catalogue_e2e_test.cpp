@@ -1,0 +1,184 @@
+// The My Theme page in the real editor, over a device folder holding a named theme, a theme with
+// an empty name, an older theme, a .skin of random bytes and a theme in an extra theme folder.
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "device_fixture.h"
+#include "ids_themes.h"
+
+namespace cv2test {
+namespace {
+
+using Texts = std::vector<std::wstring>;
+
+std::string Narrow(const std::wstring& text) {
+    return std::string(text.begin(), text.end());
+}
+
+class ThemeCatalogueE2E : public DeviceFixture {
+  protected:
+    void Folder(const std::wstring& name) const { CreateDirectoryW(File(name).c_str(), nullptr); }
+
+    void WriteThemes() {
+        Folder(L"Themes");
+        Folder(L"Themes\\Named");
+        WriteText(L"Themes\\Named\\named.skin",
+                  "[Skin Info]\nName=Night Sky\nAuthor=Ann\nAuthorEmail=ann@example.org\n"
+                  "HiRes=TRUE\nNotes=Dark and calm\n");
+        Folder(L"Themes\\Nameless");
+        WriteText(L"Themes\\Nameless\\Nameless.skin", "[Skin Info]\nName=\nAuthor=Bob\n");
+        Folder(L"Themes\\Old");
+        WriteText(L"Themes\\Old\\old.skin",
+                  "Logo=logo.bmp\nTaskbar=bar.bmp\nClockFont=Tahoma, 9, FF0000, t, f, t\n"
+                  "BGMode=2002\n");
+        Folder(L"Themes\\Junk");
+        std::string junk;
+        unsigned seed = 12345;
+        for (int i = 0; i < 5000; ++i) {
+            seed = seed * 1103515245 + 12345;
+            junk += static_cast<char>(seed >> 16);
+        }
+        WriteText(L"Themes\\Junk\\junk.skin", junk);
+        Folder(L"Extra");
+        Folder(L"Extra\\Far");
+        WriteText(L"Extra\\Far\\far.skin", "[Skin Info]\nName=Far Away\n");
+    }
+
+    void Start(const std::string& settings = "") {
+        WriteThemes();
+        WriteText(L"config.ini", "[Theme Directories]\n1=" + Narrow(File(L"Extra")) + "\n" +
+                                     settings + "[Sounds]\nStart=start.wav\n");
+        ASSERT_TRUE(StartEditor());
+        // The page posts its selection change to itself after loading.
+        SendMessageW(m_main, WM_NULL, 0, 0);
+        WaitFor([&] { return List() != nullptr; });
+    }
+
+    HWND List() const { return ShownControl(IDC_THEMES_LIST); }
+
+    Texts Listed() const {
+        Texts texts;
+        const LRESULT count = SendMessageW(List(), LB_GETCOUNT, 0, 0);
+        for (LRESULT i = 0; i < count; ++i) {
+            wchar_t text[300] = {};
+            if (SendMessageW(List(), LB_GETTEXTLEN, i, 0) < 299)
+                SendMessageW(List(), LB_GETTEXT, i, reinterpret_cast<LPARAM>(text));
+            texts.push_back(text);
+        }
+        return texts;
+    }
+
+    std::wstring SelectedText() const {
+        const LRESULT row = SendMessageW(List(), LB_GETCURSEL, 0, 0);
+        return row < 0 ? L"<none>" : Listed()[static_cast<size_t>(row)];
+    }
+
+    void Select(const std::wstring& text) const {
+        const Texts texts = Listed();
+        for (size_t i = 0; i < texts.size(); ++i) {
+            if (texts[i] != text)
+                continue;
+            SendMessageW(List(), LB_SETCURSEL, i, 0);
+            SendMessageW(m_main, WM_COMMAND, MAKEWPARAM(IDC_THEMES_LIST, LBN_SELCHANGE),
+                         reinterpret_cast<LPARAM>(List()));
+            return;
+        }
+        ADD_FAILURE() << "no row " << Narrow(text);
+    }
+
+    std::wstring Details() const {
+        HWND edit = FindWindowExW(m_main, nullptr, L"EDIT", nullptr);
+        for (; edit; edit = FindWindowExW(m_main, edit, L"EDIT", nullptr)) {
+            if (GetDlgCtrlID(edit) == IDC_THEMES_DETAILS)
+                break;
+        }
+        wchar_t text[1100] = {};
+        SendMessageW(edit, WM_GETTEXT, 1100, reinterpret_cast<LPARAM>(text));
+        return text;
+    }
+
+    // The visible dialog window of the editor's process with that title (any title when null).
+    static HWND Dialog(const wchar_t* title) {
+        HWND found = nullptr;
+        WaitFor([&] {
+            found = FindWindowW(L"#32770", title);
+            return found && IsWindowVisible(found);
+        });
+        return found;
+    }
+
+    static bool FolderExists(const std::wstring& path) {
+        const DWORD attributes = GetFileAttributesW(path.c_str());
+        return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+    }
+};
+
+} // namespace
+
+TEST_F(ThemeCatalogueE2E, EveryThemeIsListedSortedWithTheCustomTheme) {
+    Start();
+    EXPECT_EQ(Listed(), (Texts{L"[1.x Theme] junk", L"[1.x Theme] old", L"Custom Theme",
+                               L"Far Away", L"Nameless", L"Night Sky"}));
+}
+
+TEST_F(ThemeCatalogueE2E, ThemeFileIsSelectedWithItsDetails) {
+    Start("[Settings]\nTheme File=" + Narrow(File(L"Themes\\Named\\named.skin")) + "\n");
+    EXPECT_TRUE(WaitFor([&] { return SelectedText() == L"Night Sky"; }));
+    EXPECT_TRUE(WaitFor([&] {
+        return Details() == L"Author: Ann\r\nE-Mail: ann@example.org\r\nHiRes: Yes\r\n\r\nNotes: "
+                            L"\r\nDark and calm";
+    })) << Narrow(Details());
+    EXPECT_TRUE(IsWindowEnabled(ShownControl(IDC_THEMES_DELETE)));
+    EXPECT_FALSE(IsWindowEnabled(ShownControl(IDC_THEMES_CUSTOMIZE)));
+}
+
+TEST_F(ThemeCatalogueE2E, DeleteAfterYesRemovesTheThemeFolder) {
+    Start();
+    Select(L"Far Away");
+    PostMessageW(ShownControl(IDC_THEMES_DELETE), BM_CLICK, 0, 0);
+    HWND box = Dialog(L"Confirm Delete");
+    ASSERT_TRUE(box) << "no confirmation";
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDYES, BN_CLICKED), 0);
+    EXPECT_TRUE(WaitFor([&] { return !FolderExists(File(L"Extra\\Far")); }));
+    EXPECT_TRUE(FolderExists(File(L"Extra")));
+    EXPECT_TRUE(WaitFor([&] { return Listed().size() == 5; }));
+    EXPECT_EQ(SelectedText(), L"<none>");
+}
+
+TEST_F(ThemeCatalogueE2E, ApplyOnAnOlderThemeWritesTheConvertedSections) {
+    Start();
+    Select(L"[1.x Theme] old");
+    Apply();
+    const std::string folder = Narrow(File(L"Themes\\Old\\"));
+    const std::string settings = SectionText("Settings");
+    EXPECT_NE(settings.find(Lines("Theme File=" + Narrow(File(L"config.ini")) + "\n")),
+              std::string::npos)
+        << settings;
+    EXPECT_NE(settings.find(Lines("Theme On Card=FALSE\n")), std::string::npos) << settings;
+    EXPECT_EQ(SectionText("Topbar"), Lines("[Topbar]\nPortrait=" + folder +
+                                           "bar.bmp\nMode=Gradient\nUse Theme Colors=TRUE\n\n"));
+    EXPECT_EQ(SectionText("Clock Font"),
+              Lines("[Clock Font]\nName=Tahoma\nSize=9\nColor=0\nStyle=bold,shadow\n\n"));
+    EXPECT_NE(SectionText("Button Images").find("Start Menu Normal=" + folder + "logo.bmp"),
+              std::string::npos);
+    EXPECT_EQ(SectionText("Sounds"), "<missing>");
+}
+
+TEST_F(ThemeCatalogueE2E, CustomizeOpensTheEditorAndCancelLeavesTheThemeAsItWas) {
+    Start("[Settings]\nTheme File=" + Narrow(File(L"config.ini")) + "\n");
+    EXPECT_TRUE(WaitFor([&] { return SelectedText() == L"Custom Theme"; }));
+    Apply();
+    const std::string before = ReadText(L"config.ini");
+    EXPECT_TRUE(WaitFor([&] { return IsWindowEnabled(ShownControl(IDC_THEMES_CUSTOMIZE)); }));
+    PostMessageW(ShownControl(IDC_THEMES_CUSTOMIZE), BM_CLICK, 0, 0);
+    HWND editor = Dialog(nullptr);
+    ASSERT_TRUE(editor) << "Customize opened no editor";
+    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(editor); }));
+    Apply();
+    EXPECT_EQ(ReadText(L"config.ini"), before);
+}
+
+} // namespace cv2test

@@ -1,0 +1,257 @@
+// The My Theme page on a stand-in main window, over a scratch program folder with real themes.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "ids_behaviour.h"
+#include "ids_themes.h"
+#include "rule_page_support.h"
+#include "store/scale.h"
+#include "store/screen.h"
+#include "temp_folder.h"
+#include "themes/theme_catalogue_page.h"
+
+using namespace cv2;
+using namespace cv2test;
+
+namespace {
+
+using Texts = std::vector<std::wstring>;
+
+std::string Narrow(const std::wstring& text) {
+    return std::string(text.begin(), text.end());
+}
+
+// Runs the messages the page posted (its selection-change notice).
+void Pump() {
+    MSG msg;
+    while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&msg);
+        DispatchMessageW(&msg);
+    }
+}
+
+class ThemeCataloguePageTest : public ::testing::Test {
+  protected:
+    ThemeCataloguePageTest() : m_page(m_dir.Path()) {}
+
+    void Theme(const std::wstring& relative, const std::string& text) const {
+        m_dir.MakeFolder(relative.substr(0, relative.find_last_of(L'\\')));
+        m_dir.Write(relative, text);
+    }
+    void StandardThemes() const {
+        Theme(L"Themes\\Blue\\blue.skin",
+              "[Skin Info]\nName=Deep Blue\nAuthor=Ann\nAuthorEmail=ann@example.org\nHiRes=TRUE\n");
+        Theme(L"Themes\\Plain\\plain.skin", "[Skin Info]\nName=\nAuthor=Bob\nNotes=Read me\n");
+        Theme(L"Themes\\Old\\old.skin", "Logo=logo.bmp\nBGMode=2002\n");
+    }
+    // Binds the page to a config.ini document of the scratch folder, as the main window does.
+    void Open(const std::string& config) {
+        m_dir.Write(L"config.ini", config);
+        m_doc.Load(m_dir.File(L"config.ini"));
+        m_host.Add(m_page);
+        m_page.Load(&m_doc);
+        Pump();
+    }
+    HWND List() const { return m_page.Window(ThemeCataloguePage::List); }
+    Texts Listed() const { return ListBoxTexts(List()); }
+    std::wstring SelectedText() const {
+        const LRESULT row = SendMessageW(List(), LB_GETCURSEL, 0, 0);
+        return row < 0 ? L"<none>" : Listed()[static_cast<size_t>(row)];
+    }
+    void Select(const std::wstring& text) const {
+        const LRESULT row = SendMessageW(List(), LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                         reinterpret_cast<LPARAM>(text.c_str()));
+        ASSERT_GE(row, 0) << Narrow(text);
+        SendMessageW(List(), LB_SETCURSEL, static_cast<WPARAM>(row), 0);
+        SendMessageW(m_host.Window(), WM_COMMAND, MAKEWPARAM(IDC_THEMES_LIST, LBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(List()));
+    }
+    bool Enabled(ThemeCataloguePage::Control c) const {
+        return IsWindowEnabled(m_page.Window(c)) != FALSE;
+    }
+    std::wstring Details() const {
+        return WindowText(m_page.Window(ThemeCataloguePage::DetailsText));
+    }
+    std::wstring Value(const wchar_t* key) const {
+        return m_doc.GetString(L"Settings", key, L"<missing>");
+    }
+    void Click(ThemeCataloguePage::Control c) const {
+        SendMessageW(m_host.Window(), WM_COMMAND,
+                     MAKEWPARAM(GetDlgCtrlID(m_page.Window(c)), BN_CLICKED),
+                     reinterpret_cast<LPARAM>(m_page.Window(c)));
+    }
+
+    TempFolder m_dir;
+    PageHost m_host;
+    ThemeCataloguePage m_page;
+    IniDocument m_doc;
+};
+
+} // namespace
+
+TEST_F(ThemeCataloguePageTest, ListIsSortedWithTheCustomThemeAndTheOlderThemePrefix) {
+    StandardThemes();
+    Open("");
+    EXPECT_EQ(Listed(), (Texts{L"[1.x Theme] old", L"Custom Theme", L"Deep Blue", L"plain"}));
+}
+
+TEST_F(ThemeCataloguePageTest, ThemeFileSelectsItsThemeWithButtonsAndDetailsFollowing) {
+    StandardThemes();
+    Open("[Settings]\nTheme File=" + Narrow(m_dir.File(L"THEMES\\Blue\\Blue.skin")) + "\n");
+    EXPECT_EQ(SelectedText(), L"Deep Blue");
+    EXPECT_TRUE(Enabled(ThemeCataloguePage::Delete));
+    EXPECT_FALSE(Enabled(ThemeCataloguePage::Customize));
+    EXPECT_EQ(Details(), L"Author: Ann\r\nE-Mail: ann@example.org\r\nHiRes: Yes\r\n");
+}
+
+TEST_F(ThemeCataloguePageTest, ThemeFileNamingConfigSelectsTheCustomTheme) {
+    StandardThemes();
+    Open("[Settings]\nTheme File=" + Narrow(m_dir.File(L"config.ini")) + "\n");
+    EXPECT_EQ(SelectedText(), L"Custom Theme");
+    EXPECT_TRUE(Enabled(ThemeCataloguePage::Customize));
+    EXPECT_FALSE(Enabled(ThemeCataloguePage::Delete));
+    EXPECT_EQ(Details(), L"");
+}
+
+TEST_F(ThemeCataloguePageTest, ThemeFileOfAVanishedThemeSelectsNothingAndApplyLeavesIt) {
+    StandardThemes();
+    const std::string gone = Narrow(m_dir.File(L"Themes\\Gone\\gone.skin"));
+    Open("[Settings]\nTheme File=" + gone + "\n");
+    EXPECT_EQ(SelectedText(), L"<none>");
+    EXPECT_FALSE(Enabled(ThemeCataloguePage::Delete));
+    EXPECT_FALSE(Enabled(ThemeCataloguePage::Customize));
+    m_page.Save(nullptr);
+    EXPECT_EQ(Value(L"Theme File"), std::wstring(gone.begin(), gone.end()));
+    EXPECT_EQ(Value(L"Theme On Card"), L"<missing>");
+}
+
+TEST_F(ThemeCataloguePageTest, SelectingCustomThemeDisablesDeleteAndEnablesCustomize) {
+    StandardThemes();
+    Open("");
+    Select(L"Custom Theme");
+    EXPECT_TRUE(Enabled(ThemeCataloguePage::Customize));
+    EXPECT_FALSE(Enabled(ThemeCataloguePage::Delete));
+    Select(L"plain");
+    EXPECT_FALSE(Enabled(ThemeCataloguePage::Customize));
+    EXPECT_TRUE(Enabled(ThemeCataloguePage::Delete));
+}
+
+TEST_F(ThemeCataloguePageTest, NotesFollowTheDetailsWithAScrollBar) {
+    StandardThemes();
+    Open("");
+    HWND edit = m_page.Window(ThemeCataloguePage::DetailsText);
+    Select(L"plain");
+    EXPECT_EQ(Details(), L"Author: Bob\r\nE-Mail: \r\nHiRes: No\r\n\r\nNotes: \r\nRead me");
+    EXPECT_NE(GetWindowLongPtrW(edit, GWL_STYLE) & WS_VSCROLL, 0);
+    Select(L"Deep Blue");
+    EXPECT_EQ(GetWindowLongPtrW(edit, GWL_STYLE) & WS_VSCROLL, 0);
+    Select(L"[1.x Theme] old");
+    EXPECT_EQ(Details(), L"Author: \r\nE-Mail: \r\nHiRes: No\r\n");
+}
+
+TEST_F(ThemeCataloguePageTest, DeleteAfterYesRemovesTheThemeFolderAndRefills) {
+    StandardThemes();
+    Theme(L"Themes\\Plain\\images\\bar.bmp", "BM");
+    Open("[Settings]\nTheme File=" + Narrow(m_dir.File(L"Themes\\Plain\\plain.skin")) + "\n");
+    DialogDriver driver({[](HWND box) { PressItem(box, IDYES); }});
+    Click(ThemeCataloguePage::Delete);
+    EXPECT_TRUE(driver.AllStepsRun());
+    EXPECT_FALSE(m_dir.HasFolder(L"Themes\\Plain"));
+    EXPECT_EQ(Listed(), (Texts{L"[1.x Theme] old", L"Custom Theme", L"Deep Blue"}));
+    EXPECT_EQ(SelectedText(), L"<none>");
+    EXPECT_FALSE(Enabled(ThemeCataloguePage::Delete));
+    EXPECT_EQ(Value(L"Theme File"), m_dir.File(L"Themes\\Plain\\plain.skin"));
+}
+
+TEST_F(ThemeCataloguePageTest, DeleteAfterNoKeepsTheTheme) {
+    StandardThemes();
+    Open("");
+    Select(L"Deep Blue");
+    DialogDriver driver({[](HWND box) { PressItem(box, IDNO); }});
+    Click(ThemeCataloguePage::Delete);
+    EXPECT_TRUE(driver.AllStepsRun());
+    EXPECT_TRUE(m_dir.HasFolder(L"Themes\\Blue"));
+    EXPECT_EQ(SelectedText(), L"Deep Blue");
+}
+
+TEST_F(ThemeCataloguePageTest, ApplyOfACurrentThemeStoresItsPathOffCard) {
+    StandardThemes();
+    Open("[Settings]\nTheme On Card=TRUE\n");
+    Select(L"Deep Blue");
+    m_page.Save(nullptr);
+    EXPECT_EQ(Value(L"Theme File"), m_dir.File(L"Themes\\Blue\\blue.skin"));
+    EXPECT_EQ(Value(L"Theme On Card"), L"FALSE");
+}
+
+TEST_F(ThemeCataloguePageTest, ApplyOfTheCustomThemeStoresConfigPath) {
+    StandardThemes();
+    Open("");
+    Select(L"Custom Theme");
+    m_page.Save(nullptr);
+    EXPECT_EQ(Value(L"Theme File"), m_dir.File(L"config.ini"));
+    EXPECT_EQ(Value(L"Theme On Card"), L"FALSE");
+}
+
+TEST_F(ThemeCataloguePageTest, ApplyOfAnOlderThemeConvertsItIntoConfig) {
+    StandardThemes();
+    Open("[Sounds]\nStart=s.wav\n");
+    Select(L"[1.x Theme] old");
+    m_page.Save(nullptr);
+    EXPECT_EQ(Value(L"Theme File"), m_dir.File(L"config.ini"));
+    EXPECT_EQ(m_doc.GetString(L"Button Images", L"Start Menu Normal", L""),
+              m_dir.File(L"Themes\\Old\\logo.bmp"));
+    EXPECT_EQ(m_doc.GetString(L"Topbar", L"Mode", L""), L"Gradient");
+    EXPECT_FALSE(m_doc.HasSection(L"Sounds"));
+}
+
+TEST_F(ThemeCataloguePageTest, ThemesOfListedThemeDirectoriesAreListedAndReloadFindsNewOnes) {
+    StandardThemes();
+    Theme(L"Extra\\E\\e.skin", "[Skin Info]\nName=Extra\n");
+    Open("");
+    EXPECT_EQ(Listed().size(), 4u);
+    m_doc.SetString(L"Theme Directories", L"1", m_dir.File(L"Extra").c_str());
+    m_page.Reload();
+    EXPECT_EQ(Listed(),
+              (Texts{L"[1.x Theme] old", L"Custom Theme", L"Deep Blue", L"Extra", L"plain"}));
+}
+
+TEST_F(ThemeCataloguePageTest, CustomizeOpensTheThemeEditorAndCancelLeavesTheDocument) {
+    StandardThemes();
+    Open("[Settings]\nTheme File=" + Narrow(m_dir.File(L"config.ini")) +
+         "\n[Topbar]\nMode=tiled\n");
+    const std::string before = m_doc.Serialize();
+    bool opened = false;
+    DialogDriver driver({[&](HWND editor) {
+        opened = true;
+        PressItem(editor, IDCANCEL);
+    }});
+    Click(ThemeCataloguePage::Customize);
+    EXPECT_TRUE(driver.AllStepsRun());
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(m_doc.Serialize(), before);
+}
+
+TEST_F(ThemeCataloguePageTest, SquareScreensShowDetailsBehindAButton) {
+    StandardThemes();
+    Open("");
+    const bool square = IsPortraitWidth(ScreenWidth()) && IsPortraitWidth(ScreenHeight());
+    HWND button = m_page.Window(ThemeCataloguePage::DetailsButton);
+    HWND edit = m_page.Window(ThemeCataloguePage::DetailsText);
+    if (!square) {
+        EXPECT_EQ(button, nullptr);
+        EXPECT_TRUE(IsWindowVisible(edit));
+        return;
+    }
+    ASSERT_NE(button, nullptr);
+    EXPECT_FALSE(IsWindowVisible(edit));
+    Select(L"Deep Blue");
+    std::wstring shown;
+    DialogDriver driver({[&](HWND box) {
+        shown = WindowText(GetDlgItem(box, 0xFFFF));
+        PressItem(box, IDOK);
+    }});
+    Click(ThemeCataloguePage::DetailsButton);
+    EXPECT_TRUE(driver.AllStepsRun());
+    EXPECT_EQ(shown.substr(0, 11), L"Author: Ann");
+}

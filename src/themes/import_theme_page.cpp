@@ -5,11 +5,10 @@
 #include "app/app_messages.h"
 #include "ids_editor.h"
 #include "store/scale.h"
-#include "platform/device_colors.h"
 #include "themes/image_panel.h"
+#include "themes/older_theme_device.h"
 #include "themes/theme_info_dialog.h"
 #include "themes/theme_transfer.h"
-#include "ui/backgrounds/background_record.h"
 #include "ui/child_controls.h"
 #include "ui/file_browser.h"
 
@@ -35,14 +34,6 @@ class WaitCursor {
   private:
     HCURSOR m_old;
 };
-
-// The device colours an older theme falls back to. The device's own theme colours are not read
-// yet, so colour 0 and 1 take the values of a device that has none.
-OlderThemeColors DeviceFallbackColors() {
-    const ColorRef caption = DeviceSysColor(COLOR_ACTIVECAPTION);
-    const BackgroundDefaults defaults = MakeBackgroundDefaults(caption, nullptr, nullptr);
-    return {defaults.leftColor, defaults.rightColor, caption};
-}
 
 } // namespace
 
@@ -93,7 +84,7 @@ void ImportThemePage::Import() {
     IniDocument chosen;
     chosen.Load(browser.result);
     WaitCursor wait;
-    ImportTheme(*m_doc, chosen, DeviceFallbackColors());
+    ImportTheme(*m_doc, chosen, DeviceOlderThemeColors());
     SendMessageW(m_host, UpdateThemeMessage(), 0, 0);
 }
 

@@ -48,6 +48,15 @@ class KeyboardNavigationE2E : public DeviceFixture {
         }
         return stops;
     }
+    // Starts the editor on the Delays/Timers page: a page of several boxes in two columns.
+    void StartOnDelaysPage() {
+        ASSERT_TRUE(StartEditor());
+        const std::vector<std::wstring> names = MainPageNames();
+        const auto page = std::find(names.begin(), names.end(), L"Delays/Timers");
+        ASSERT_NE(page, names.end());
+        SelectPage(static_cast<int>(page - names.begin()));
+        SetForegroundWindow(m_main);
+    }
     static RECT Place(HWND control) {
         RECT r;
         GetWindowRect(control, &r);
@@ -58,8 +67,7 @@ class KeyboardNavigationE2E : public DeviceFixture {
 } // namespace
 
 TEST_F(KeyboardNavigationE2E, TabWalksTheShownPageInReadingOrderAndWraps) {
-    ASSERT_TRUE(StartEditor());
-    SetForegroundWindow(m_main);
+    StartOnDelaysPage();
     const std::vector<HWND> stops = Round(false);
     ASSERT_GE(stops.size(), 2u) << "Tab must reach the page's controls";
     for (size_t i = 0; i < stops.size(); ++i) {
@@ -74,8 +82,7 @@ TEST_F(KeyboardNavigationE2E, TabWalksTheShownPageInReadingOrderAndWraps) {
 }
 
 TEST_F(KeyboardNavigationE2E, ShiftTabWalksTheSameControlsBackwards) {
-    ASSERT_TRUE(StartEditor());
-    SetForegroundWindow(m_main);
+    StartOnDelaysPage();
     std::vector<HWND> forward = Round(false);
     ASSERT_GE(forward.size(), 2u);
     // The focus is on the first control again; going back starts from the last.

@@ -28,11 +28,13 @@ struct Action {
     const wchar_t* name;
 };
 
+#ifndef SAMPLE_MANY_BUTTONS
 static const struct Button kButtons[] = {
     {L"Sample Weather", L"Weather", L"weather"},
     {L"Sample Mail", L"Mail", L"mailcheck"},
     {L"Sample Torch", L"Torch", L"torch"},
 };
+#endif
 static const struct Action kActions[] = {
     {L"smp.weather", L"Sample: Show Weather"},
     {L"smp.mail", L"Sample: Check Mail"},

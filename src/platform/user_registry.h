@@ -42,7 +42,7 @@ bool ReadUserValues(const wchar_t* key, std::vector<UserValue>& values);
 
 // Writes REG_SZ values into `key` only when it exists (it is never created); false when the key
 // is missing or a value could not be written.
-bool WriteUserStringsToExistingKey(const wchar_t* key,
-                                   const std::vector<std::pair<std::wstring, std::wstring>>& values);
+bool WriteUserStringsToExistingKey(
+    const wchar_t* key, const std::vector<std::pair<std::wstring, std::wstring>>& values);
 
 } // namespace cv2

@@ -96,8 +96,8 @@ bool EnumValue(HKEY hkey, DWORD index, UserValue& value) {
         DWORD nameChars = static_cast<DWORD>(name.size());
         DWORD bytes = static_cast<DWORD>(data.size());
         DWORD type = 0;
-        const LONG rc =
-            RegEnumValueW(hkey, index, name.data(), &nameChars, nullptr, &type, data.data(), &bytes);
+        const LONG rc = RegEnumValueW(hkey, index, name.data(), &nameChars, nullptr, &type,
+                                      data.data(), &bytes);
         if (rc == ERROR_MORE_DATA) {
             // Registry value names are at most 16,383 characters.
             if (name.size() < 16384)
@@ -111,8 +111,8 @@ bool EnumValue(HKEY hkey, DWORD index, UserValue& value) {
             return false;
         value.name.assign(name.data(), std::min<size_t>(nameChars, name.size()));
         value.isText = type == REG_SZ || type == REG_EXPAND_SZ;
-        value.text = value.isText ? TextOfData(data, std::min<DWORD>(bytes, data.size()))
-                                  : std::wstring();
+        value.text =
+            value.isText ? TextOfData(data, std::min<DWORD>(bytes, data.size())) : std::wstring();
         return true;
     }
 }

@@ -24,7 +24,9 @@ std::vector<std::wstring> Labels() {
     return labels;
 }
 
-const wchar_t* NoPlugin(const wchar_t*) { return nullptr; }
+const wchar_t* NoPlugin(const wchar_t*) {
+    return nullptr;
+}
 
 std::vector<std::wstring> Keys(const IniDocument& doc, const wchar_t* section) {
     std::vector<std::wstring> keys;
@@ -37,8 +39,10 @@ std::vector<std::wstring> Keys(const IniDocument& doc, const wchar_t* section) {
 
 TEST(ButtonAssignments, EmptyActionsSectionGivesTheDefaults) {
     const ButtonAssignments v = ReadAssignments(IniDocument());
-    const wchar_t* taps[] = {L"2", L"7", L"2", L"3", L"10", L"8", L"11", L"5", L"1", L"1", L"16", L"30"};
-    const wchar_t* holds[] = {L"5", L"5", L"1", L"1", L"6", L"9", L"1", L"2", L"1", L"1", L"1", L"1"};
+    const wchar_t* taps[] = {L"2",  L"7", L"2", L"3", L"10", L"8",
+                             L"11", L"5", L"1", L"1", L"16", L"30"};
+    const wchar_t* holds[] = {L"5", L"5", L"1", L"1", L"6", L"9",
+                              L"1", L"2", L"1", L"1", L"1", L"1"};
     for (size_t row = 0; row < kAssignedButtons; ++row) {
         EXPECT_EQ(taps[row], v.tap[row]) << row;
         EXPECT_EQ(holds[row], v.hold[row]) << row;
@@ -57,15 +61,15 @@ TEST(ButtonAssignments, SavedKeysInTheBarsOrder) {
     IniDocument doc;
     WriteAssignments(doc, ReadAssignments(IniDocument()), std::vector<bool>(12, true));
     EXPECT_EQ((std::vector<std::wstring>{
-                  L"Button 0 Action=2",  L"Button 0 Hold=5",   L"Button 3 Action=7",
-                  L"Button 3 Hold=5",    L"Button 4 Action=2", L"Button 4 Hold=1",
-                  L"Button 5 Action=3",  L"Button 5 Hold=1",   L"Button 6 Action=10",
-                  L"Button 7 Action=10", L"Button 6 Hold=6",   L"Button 7 Hold=6",
-                  L"Button 8 Action=8",  L"Button 8 Hold=9",   L"Button 9 Action=11",
-                  L"Button 9 Hold=1",    L"Button 10 Action=5", L"Button 10 Hold=2",
-                  L"Button 11 Action=1", L"Button 11 Hold=1",  L"Button 12 Action=1",
+                  L"Button 0 Action=2",  L"Button 0 Hold=5",     L"Button 3 Action=7",
+                  L"Button 3 Hold=5",    L"Button 4 Action=2",   L"Button 4 Hold=1",
+                  L"Button 5 Action=3",  L"Button 5 Hold=1",     L"Button 6 Action=10",
+                  L"Button 7 Action=10", L"Button 6 Hold=6",     L"Button 7 Hold=6",
+                  L"Button 8 Action=8",  L"Button 8 Hold=9",     L"Button 9 Action=11",
+                  L"Button 9 Hold=1",    L"Button 10 Action=5",  L"Button 10 Hold=2",
+                  L"Button 11 Action=1", L"Button 11 Hold=1",    L"Button 12 Action=1",
                   L"Button 12 Hold=1",   L"Button 14 Action=16", L"Button 15 Action=16",
-                  L"Button 14 Hold=1",   L"Button 15 Hold=1",  L"Button 16 Action=30",
+                  L"Button 14 Hold=1",   L"Button 15 Hold=1",    L"Button 16 Action=30",
                   L"Button 16 Hold=1"}),
               Keys(doc, L"Actions"));
     EXPECT_EQ((std::vector<std::wstring>{L"Show Notifications=TRUE", L"Use Start Menu=TRUE"}),
@@ -120,8 +124,8 @@ TEST(ButtonAssignments, SignalStrengthShownOnlyWithAPhone) {
 }
 
 TEST(ButtonAssignments, PluginButtonShownWhenItsKeyIsInTheOrder) {
-    const std::vector<bool> flags =
-        ReadVisibility(IniDocument(), L"clock,weather", false, {L"Weather", nullptr, L"", L"torch"});
+    const std::vector<bool> flags = ReadVisibility(IniDocument(), L"clock,weather", false,
+                                                   {L"Weather", nullptr, L"", L"torch"});
     ASSERT_EQ(16u, flags.size());
     EXPECT_TRUE(flags[12]);
     EXPECT_FALSE(flags[13]); // absent

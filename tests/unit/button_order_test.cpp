@@ -18,7 +18,8 @@ std::vector<bool> AllShownButSignal() {
     return flags;
 }
 
-std::vector<std::wstring> Names(const std::vector<int>& listed, const std::vector<OrderItem>& items) {
+std::vector<std::wstring> Names(const std::vector<int>& listed,
+                                const std::vector<OrderItem>& items) {
     std::vector<std::wstring> names;
     for (int i : listed)
         names.push_back(items[static_cast<size_t>(i)].name);
@@ -47,10 +48,10 @@ TEST(ButtonOrder, ReadValueIsLowerCased) {
 TEST(ButtonOrder, NoOrderKeyWithoutPhoneListsDefaultsThenOtherVisibleButtons) {
     const std::vector<OrderItem> items = BuiltInOrderItems();
     const std::vector<int> order = ParseOrder(ReadOrderValue(IniDocument(), false), items);
-    EXPECT_EQ((std::vector<std::wstring>{L"Notification", L"Connection", L"Volume", L"Clock",
-                                         L"Menu", L"Battery/Memory", L"Close", L"Home",
-                                         L"Custom 1", L"Custom 2"}),
-              Names(ListedItems(order, items, AllShownButSignal()), items));
+    EXPECT_EQ(
+        (std::vector<std::wstring>{L"Notification", L"Connection", L"Volume", L"Clock", L"Menu",
+                                   L"Battery/Memory", L"Close", L"Home", L"Custom 1", L"Custom 2"}),
+        Names(ListedItems(order, items, AllShownButSignal()), items));
 }
 
 TEST(ButtonOrder, HiddenButtonsLeaveTheList) {

@@ -46,8 +46,7 @@ TEST(PluginValue, TwoThousandCharactersAreCutToThePathBuffer) {
 
 // The suffix of a long value lies past the data buffer, so it is not seen.
 TEST(PluginValue, SuffixBeyondTheDataBufferIsNotSeen) {
-    const PluginRegistration p =
-        ParsePluginValue(L"Long", true, std::wstring(600, L'a') + L",0");
+    const PluginRegistration p = ParsePluginValue(L"Long", true, std::wstring(600, L'a') + L",0");
     EXPECT_FALSE(p.disabled);
 }
 

@@ -64,10 +64,10 @@ TEST_F(ButtonOrderPageTest, NoOrderKeyWithoutAPhoneListsTheDefaultsThenOtherVisi
     ButtonOrderPage page(registry, state);
     PageHostWindow host(page, doc);
     host.ShowPage();
-    EXPECT_EQ((std::vector<std::wstring>{L"Notification", L"Connection", L"Volume", L"Clock",
-                                         L"Menu", L"Battery/Memory", L"Close", L"Home",
-                                         L"Custom 1", L"Custom 2"}),
-              Listed(page));
+    EXPECT_EQ(
+        (std::vector<std::wstring>{L"Notification", L"Connection", L"Volume", L"Clock", L"Menu",
+                                   L"Battery/Memory", L"Close", L"Home", L"Custom 1", L"Custom 2"}),
+        Listed(page));
 }
 
 TEST_F(ButtonOrderPageTest, NoOrderKeyWithAPhoneStartsWithSignalStrength) {
@@ -175,8 +175,8 @@ TEST_F(ButtonOrderPageTest, ActivatingRefillsFromTheVisibilityFlags) {
     PageHostWindow host(page, doc);
     host.ShowPage();
     page.OnDeactivate();
-    state.visible[4] = false;  // Volume hidden
-    state.visible[11] = true;  // Signal Strength shown
+    state.visible[4] = false; // Volume hidden
+    state.visible[11] = true; // Signal Strength shown
     page.OnActivate();
     const std::vector<std::wstring> listed = Listed(page);
     EXPECT_EQ(listed.end(), std::find(listed.begin(), listed.end(), L"Volume"));

@@ -1,8 +1,9 @@
-// Screenshots of Button Assignments, Button Order and Plugins on the device screen the run is
-// set to, with the sample plug-in loaded, and a check that nothing is cut off or overlapping.
+// Screenshots of Button Assignments, Button Order and Plugins in the real main window on the
+// device screen the run is set to, with the sample plug-in loaded, and a check that nothing is
+// cut off or overlapping.
 #include <gtest/gtest.h>
 
-#include "check_pages_host.h"
+#include "app_fixture.h"
 #include "pages/behaviour/button_assignments_page.h"
 #include "pages/behaviour/button_order_page.h"
 #include "pages/behaviour/plugins/plugins_page.h"
@@ -15,52 +16,60 @@ using namespace cv2test;
 
 namespace {
 
-class ButtonPagesScreensTest : public PageTest {
+class ButtonPagesScreensTest : public AppFixture {
   protected:
     void SetUp() override {
-        const std::wstring sample = CopyPlugin(dir, L"SamplePlugin.dll");
+        const std::wstring sample = CopyPlugin(plugins, L"SamplePlugin.dll");
         registry.Load({TextValue(L"Sample Plugin", sample),
-                       TextValue(L"Weather Station (turned off)", sample + L",0"),
-                       TextValue(L"Old Plugin", dir.File(L"missing.dll"))});
-        const std::string text = "[Actions]\nButton 0 Action=2\nButton 0 Hold=smp.mail\n"
-                                 "[Topbar Settings]\nOrder=Notify,Weather,Clock,Volume,Close\n";
-        doc.Parse(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+                       TextValue(L"Weather Station (turned off)",
+                                 CopyPlugin(plugins, L"NoButtonsPlugin.dll") + L",0"),
+                       TextValue(L"Old Plugin", plugins.File(L"missing.dll"))});
+        // The pages the main window would hold, in its order; owned by the application.
+        MakeApp({new ButtonAssignmentsPage(registry, state), new ButtonOrderPage(registry, state),
+                 new PluginsPage(registry)},
+                "[Actions]\nButton 0 Action=2\nButton 0 Hold=smp.mail\n"
+                "[Topbar Settings]\nOrder=Notify,Weather,Clock,Volume,Close\n");
     }
-    void TearDown() override { registry.Release(); }
+    void TearDown() override {
+        AppFixture::TearDown();
+        registry.Release();
+    }
 
-    void Shoot(SettingsPage& page, const wchar_t* name) {
-        PageHostWindow host(page, doc);
-        host.ShowPage();
-        ExpectLaidOutApart(host.hwnd());
+    void Shoot(int page, const wchar_t* name) {
+        m_app->SelectPage(page);
+        UpdateWindow(Main());
+        PumpMessages(100);
+        ExpectLaidOutApart(Main());
         EXPECT_FALSE(SaveScreenshot(name).empty());
         EXPECT_TRUE(ScreenHasContent());
     }
 
-    TempFolder dir;
+    TempFolder plugins;
     PluginRegistry registry;
     TopBarState state;
-    IniDocument doc;
 };
 
 } // namespace
 
 TEST_F(ButtonPagesScreensTest, ButtonAssignments) {
-    ButtonAssignmentsPage page(registry, state);
-    Shoot(page, L"button_assignments_page");
+    Shoot(0, L"button_assignments_page");
+}
+
+TEST_F(ButtonPagesScreensTest, ButtonAssignmentsPluginButton) {
+    HWND selector = GetDlgItem(Main(), 640);
+    ASSERT_TRUE(selector);
+    SendMessageW(selector, CB_SETCURSEL, 12, 0);
+    SendMessageW(Main(), WM_COMMAND, MAKEWPARAM(640, CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(selector));
+    Shoot(0, L"button_assignments_plugin_button");
 }
 
 TEST_F(ButtonPagesScreensTest, ButtonOrder) {
-    ButtonAssignmentsPage assignments(registry, state);
-    assignments.Load(&doc); // the visibility flags
-    ButtonOrderPage page(registry, state);
-    PageHostWindow host(page, doc);
-    host.ShowPage();
-    SendMessageW(page.List(), LB_SETCURSEL, 1, 0);
-    ExpectLaidOutApart(host.hwnd());
-    EXPECT_FALSE(SaveScreenshot(L"button_order_page").empty());
+    m_app->SelectPage(1);
+    SendMessageW(GetDlgItem(Main(), 1490), LB_SETCURSEL, 1, 0);
+    Shoot(1, L"button_order_page");
 }
 
 TEST_F(ButtonPagesScreensTest, Plugins) {
-    PluginsPage page(registry);
-    Shoot(page, L"plugins_page");
+    Shoot(2, L"plugins_page");
 }

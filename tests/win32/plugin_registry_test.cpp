@@ -162,7 +162,8 @@ TEST_F(PluginRegistryTest, AbsentSlotsAreSkippedByEveryLookup) {
 
     HWND combo = MakeCombo();
     registry.AddButtonNames(combo);
-    EXPECT_EQ((std::vector<std::wstring>{L"Sample Weather", L"", L"Sample Torch"}), ComboTexts(combo));
+    EXPECT_EQ((std::vector<std::wstring>{L"Sample Weather", L"", L"Sample Torch"}),
+              ComboTexts(combo));
     SendMessageW(combo, CB_RESETCONTENT, 0, 0);
     registry.AddActionNames(combo);
     EXPECT_EQ((std::vector<std::wstring>{L"Sample: Show Weather", L"Sample: Toggle Torch"}),

@@ -101,7 +101,9 @@ EXPORT int CRInit(DWORD* info, int reserved) {
 #endif
 }
 
-EXPORT void CRDeInit(void) { Log("CRDeInit"); }
+EXPORT void CRDeInit(void) {
+    Log("CRDeInit");
+}
 
 #ifndef SAMPLE_NO_BUTTONS
 EXPORT int CRRegisterButtons(int index, wchar_t* name, int nameChars, wchar_t* third,

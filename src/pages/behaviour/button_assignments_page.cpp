@@ -29,10 +29,10 @@ const ChildControl kControls[ButtonAssignmentsPage::Count] = {
 const ControlPlace kPlaces[ButtonAssignmentsPage::Count] = {
     {IDC_ASSIGN_BUTTON, From::Left, 3, From::Right, -6, 33, 160},
     {IDC_ASSIGN_VISIBLE, From::Left, 3, From::Right, -6, 59, 16},
-    {IDC_ASSIGN_TAP_LABEL, From::Left, 3, From::Right, -6, 80, 16},
+    {IDC_ASSIGN_TAP_LABEL, From::Left, 3, From::Right, -40, 80, 15},
     {IDC_ASSIGN_TAP, From::Left, 3, From::Right, -40, 96, 160},
     {IDC_ASSIGN_TAP_BROWSE, From::Right, -36, From::Right, -6, 95, 22},
-    {IDC_ASSIGN_HOLD_LABEL, From::Left, 3, From::Right, -6, 121, 16},
+    {IDC_ASSIGN_HOLD_LABEL, From::Left, 3, From::Right, -40, 121, 15},
     {IDC_ASSIGN_HOLD, From::Left, 3, From::Right, -40, 137, 160},
     {IDC_ASSIGN_HOLD_BROWSE, From::Right, -36, From::Right, -6, 136, 22},
 };
@@ -111,8 +111,8 @@ void ButtonAssignmentsPage::Load(IniDocument* doc) {
     std::vector<const wchar_t*> keys;
     for (size_t k = 0; k < m_plugins.ButtonTotal(); ++k)
         keys.push_back(m_plugins.ButtonKey(k));
-    m_state.visible = ReadVisibility(*doc, ReadOrderValue(*doc, m_state.hasPhone),
-                                     m_state.hasPhone, keys);
+    m_state.visible =
+        ReadVisibility(*doc, ReadOrderValue(*doc, m_state.hasPhone), m_state.hasPhone, keys);
     m_current = -1;
     if (m_controls[Selector])
         SelectButton(static_cast<int>(SendMessageW(m_controls[Selector], CB_GETCURSEL, 0, 0)));
@@ -184,8 +184,8 @@ void ButtonAssignmentsPage::SelectButton(int row) {
             SetWindowTextW(m_controls[c], L"");
         }
     }
-    const bool shown =
-        static_cast<size_t>(row) < m_state.visible.size() && m_state.visible[static_cast<size_t>(row)];
+    const bool shown = static_cast<size_t>(row) < m_state.visible.size() &&
+                       m_state.visible[static_cast<size_t>(row)];
     SendMessageW(m_controls[Visible], BM_SETCHECK, shown ? BST_CHECKED : BST_UNCHECKED, 0);
     m_current = row;
     EnableWindow(m_controls[Visible],

@@ -28,7 +28,17 @@ class ButtonAssignmentsPage : public SettingsPage {
     void OnDeactivate() override;
     void OnSize(const RECT& client) override;
 
-    enum Control { Selector, Visible, TapLabel, Tap, TapBrowse, HoldLabel, Hold, HoldBrowse, Count };
+    enum Control {
+        Selector,
+        Visible,
+        TapLabel,
+        Tap,
+        TapBrowse,
+        HoldLabel,
+        Hold,
+        HoldBrowse,
+        Count
+    };
     HWND Window(Control c) const { return m_controls[c]; }
     // The tap and hold values kept for the twelve built-in buttons.
     const ButtonAssignments& Values() const { return m_values; }

@@ -6,17 +6,38 @@ namespace cv2 {
 namespace {
 
 const StringId kActionLabels[kBuiltInActions] = {
-    IDS_ACTION_CASCADING_START, IDS_ACTION_NOTIFICATION,   IDS_ACTION_BUILTIN_VOLUME,
-    IDS_ACTION_TASKS_PANEL,     IDS_ACTION_TOGGLE_MUTE,    IDS_ACTION_NEXT_APPOINTMENT,
-    IDS_ACTION_BATTERY_BUBBLE,  IDS_ACTION_BATTERY_PANEL,  IDS_ACTION_SKINNABLE_VOLUME,
-    IDS_ACTION_TODAY,           IDS_ACTION_ALT,            IDS_ACTION_BACKLIGHT,
-    IDS_ACTION_CALENDAR,        IDS_ACTION_CLOCK_SETTINGS, IDS_ACTION_CONNECTION,
-    IDS_ACTION_COPY,            IDS_ACTION_CTRL,           IDS_ACTION_CUT,
-    IDS_ACTION_MEMORY_PANEL,    IDS_ACTION_MINIMIZE_TASK,  IDS_ACTION_PASTE,
-    IDS_ACTION_POWER_OFF,       IDS_ACTION_SOFT_RESET,     IDS_ACTION_SELECT_ALL,
-    IDS_ACTION_SHIFT,           IDS_ACTION_SIP_PANEL,      IDS_ACTION_BUILTIN_START,
-    IDS_ACTION_ROTATE,          IDS_ACTION_PHONE_BUBBLE,   IDS_ACTION_SWITCH_TASK,
-    IDS_ACTION_CLIPBOARD,       IDS_ACTION_SCREEN_TOGGLE,
+    IDS_ACTION_CASCADING_START,
+    IDS_ACTION_NOTIFICATION,
+    IDS_ACTION_BUILTIN_VOLUME,
+    IDS_ACTION_TASKS_PANEL,
+    IDS_ACTION_TOGGLE_MUTE,
+    IDS_ACTION_NEXT_APPOINTMENT,
+    IDS_ACTION_BATTERY_BUBBLE,
+    IDS_ACTION_BATTERY_PANEL,
+    IDS_ACTION_SKINNABLE_VOLUME,
+    IDS_ACTION_TODAY,
+    IDS_ACTION_ALT,
+    IDS_ACTION_BACKLIGHT,
+    IDS_ACTION_CALENDAR,
+    IDS_ACTION_CLOCK_SETTINGS,
+    IDS_ACTION_CONNECTION,
+    IDS_ACTION_COPY,
+    IDS_ACTION_CTRL,
+    IDS_ACTION_CUT,
+    IDS_ACTION_MEMORY_PANEL,
+    IDS_ACTION_MINIMIZE_TASK,
+    IDS_ACTION_PASTE,
+    IDS_ACTION_POWER_OFF,
+    IDS_ACTION_SOFT_RESET,
+    IDS_ACTION_SELECT_ALL,
+    IDS_ACTION_SHIFT,
+    IDS_ACTION_SIP_PANEL,
+    IDS_ACTION_BUILTIN_START,
+    IDS_ACTION_ROTATE,
+    IDS_ACTION_PHONE_BUBBLE,
+    IDS_ACTION_SWITCH_TASK,
+    IDS_ACTION_CLIPBOARD,
+    IDS_ACTION_SCREEN_TOGGLE,
 };
 
 constexpr wchar_t kActions[] = L"Actions";
@@ -55,9 +76,9 @@ struct NumberDefaults {
     const wchar_t* hold;
 };
 const NumberDefaults kDefaults[17] = {
-    {L"2", L"5"},  {L"1", L"1"},  {L"1", L"1"},  {L"7", L"5"},   {L"2", L"1"},  {L"3", L"1"},
-    {L"10", L"6"}, {L"10", L"6"}, {L"8", L"9"},  {L"11", L"1"},  {L"5", L"2"},  {L"1", L"1"},
-    {L"1", L"1"},  {L"27", L"1"}, {L"16", L"1"}, {L"16", L"1"},  {L"30", L"1"},
+    {L"2", L"5"},  {L"1", L"1"},  {L"1", L"1"},  {L"7", L"5"},  {L"2", L"1"},  {L"3", L"1"},
+    {L"10", L"6"}, {L"10", L"6"}, {L"8", L"9"},  {L"11", L"1"}, {L"5", L"2"},  {L"1", L"1"},
+    {L"1", L"1"},  {L"27", L"1"}, {L"16", L"1"}, {L"16", L"1"}, {L"30", L"1"},
 };
 
 std::wstring Key(int number, const wchar_t* kind) {
@@ -97,10 +118,10 @@ StringId AssignedButtonLabel(size_t row) {
 ButtonAssignments ReadAssignments(const IniDocument& doc) {
     std::wstring tap[17], hold[17];
     for (int n = 0; n < 17; ++n) {
-        tap[n] = doc.GetString(kActions, Key(n, L"Action").c_str(), kDefaults[n].tap,
-                               kAssignmentChars);
-        hold[n] = doc.GetString(kActions, Key(n, L"Hold").c_str(), kDefaults[n].hold,
-                                kAssignmentChars);
+        tap[n] =
+            doc.GetString(kActions, Key(n, L"Action").c_str(), kDefaults[n].tap, kAssignmentChars);
+        hold[n] =
+            doc.GetString(kActions, Key(n, L"Hold").c_str(), kDefaults[n].hold, kAssignmentChars);
     }
     ButtonAssignments values;
     for (size_t row = 0; row < kAssignedButtons; ++row) {

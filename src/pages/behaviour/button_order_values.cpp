@@ -61,7 +61,8 @@ std::vector<int> ParseOrder(const std::wstring& value, const std::vector<OrderIt
         const std::wstring word = value.substr(start, end - start);
         for (size_t i = 0; i < items.size() && order.size() < kMaxOrderEntries; ++i) {
             // An empty word names nothing, not even a slot whose key name is absent.
-            if (items[i].present && !word.empty() && EqualsNoCase(word.c_str(), items[i].key.c_str()))
+            if (items[i].present && !word.empty() &&
+                EqualsNoCase(word.c_str(), items[i].key.c_str()))
                 order.push_back(static_cast<int>(i));
         }
         start = end + 1;

@@ -11,9 +11,9 @@
 namespace cv2 {
 
 struct OrderItem {
-    std::wstring name; // display name
-    std::wstring key;  // the word stored in "Order", compared in any case
-    int flag = -1;     // visibility flag of the Button Assignments page; -1 for always shown
+    std::wstring name;   // display name
+    std::wstring key;    // the word stored in "Order", compared in any case
+    int flag = -1;       // visibility flag of the Button Assignments page; -1 for always shown
     bool present = true; // false for a plug-in button slot its plug-in left unnamed
 };
 

@@ -158,8 +158,8 @@ void PluginRegistry::FillCheckList(HWND list) const {
         item.iItem = static_cast<int>(i);
         item.pszText = const_cast<wchar_t*>(m_records[i].name.c_str());
         item.lParam = reinterpret_cast<LPARAM>(m_records[i].plugin.get());
-        const int row =
-            static_cast<int>(SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+        const int row = static_cast<int>(
+            SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
         if (row >= 0)
             ListView_SetCheckState(list, row, m_records[i].enabled ? TRUE : FALSE);
     }

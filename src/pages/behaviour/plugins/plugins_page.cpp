@@ -29,11 +29,11 @@ PluginsPage::~PluginsPage() {
 void PluginsPage::Create(HWND host) {
     INITCOMMONCONTROLSEX icc = {sizeof icc, ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&icc);
-    m_list = CreateWindowExW(
-        0, WC_LISTVIEWW, L"",
-        WS_CHILD | WS_BORDER | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_NOLABELWRAP,
-        0, 0, 0, 0, host, reinterpret_cast<HMENU>(INT_PTR(IDC_PLUGIN_LIST)),
-        GetModuleHandleW(nullptr), nullptr);
+    m_list = CreateWindowExW(0, WC_LISTVIEWW, L"",
+                             WS_CHILD | WS_BORDER | LVS_REPORT | LVS_NOCOLUMNHEADER |
+                                 LVS_SINGLESEL | LVS_NOLABELWRAP,
+                             0, 0, 0, 0, host, reinterpret_cast<HMENU>(INT_PTR(IDC_PLUGIN_LIST)),
+                             GetModuleHandleW(nullptr), nullptr);
     if (!m_list)
         return;
     SendMessageW(m_list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
@@ -61,7 +61,8 @@ void PluginsPage::OnSize(const RECT& client) {
     // One column, the list's width less a margin so no sideways scroll bar appears.
     RECT inside = {};
     GetClientRect(m_list, &inside);
-    SendMessageW(m_list, LVM_SETCOLUMNWIDTH, 0, MAKELPARAM(std::max(0L, inside.right - ScaleX(4)), 0));
+    SendMessageW(m_list, LVM_SETCOLUMNWIDTH, 0,
+                 MAKELPARAM(std::max(0L, inside.right - ScaleX(4)), 0));
 }
 
 void PluginsPage::Load(IniDocument* doc) {

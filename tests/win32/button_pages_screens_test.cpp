@@ -16,7 +16,7 @@ using namespace cv2test;
 
 namespace {
 
-class ButtonPagesScreensTest : public AppFixture {
+class ButtonPagesScreens : public AppFixture {
   protected:
     void SetUp() override {
         const std::wstring sample = CopyPlugin(plugins, L"SamplePlugin.dll");
@@ -51,11 +51,11 @@ class ButtonPagesScreensTest : public AppFixture {
 
 } // namespace
 
-TEST_F(ButtonPagesScreensTest, ButtonAssignments) {
+TEST_F(ButtonPagesScreens, ButtonAssignments) {
     Shoot(0, L"button_assignments_page");
 }
 
-TEST_F(ButtonPagesScreensTest, ButtonAssignmentsPluginButton) {
+TEST_F(ButtonPagesScreens, ButtonAssignmentsPluginButton) {
     HWND selector = GetDlgItem(Main(), 640);
     ASSERT_TRUE(selector);
     SendMessageW(selector, CB_SETCURSEL, 12, 0);
@@ -64,12 +64,12 @@ TEST_F(ButtonPagesScreensTest, ButtonAssignmentsPluginButton) {
     Shoot(0, L"button_assignments_plugin_button");
 }
 
-TEST_F(ButtonPagesScreensTest, ButtonOrder) {
+TEST_F(ButtonPagesScreens, ButtonOrder) {
     m_app->SelectPage(1);
     SendMessageW(GetDlgItem(Main(), 1490), LB_SETCURSEL, 1, 0);
     Shoot(1, L"button_order_page");
 }
 
-TEST_F(ButtonPagesScreensTest, Plugins) {
+TEST_F(ButtonPagesScreens, Plugins) {
     Shoot(2, L"plugins_page");
 }

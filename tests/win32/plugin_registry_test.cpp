@@ -134,6 +134,19 @@ TEST_F(PluginRegistryTest, TenThousandButtonsAreAllTaken) {
     EXPECT_EQ(12 + 10002, items.back().flag);
 }
 
+// A count no library could mean is not allocated as announced: the slots stop at the most the
+// editor takes from one plug-in, and those past the named ones are absent.
+TEST_F(PluginRegistryTest, AbsurdAnnouncedCountsAreCut) {
+    LoadCopies({L"HugeCountPlugin.dll"});
+    ASSERT_EQ(1u, registry.Count());
+    EXPECT_TRUE(registry.At(0).enabled);
+    EXPECT_EQ(size_t{Plugin::kMaxSlots}, registry.ButtonTotal());
+    EXPECT_EQ(size_t{Plugin::kMaxSlots}, registry.At(0).plugin->Actions().size());
+    EXPECT_STREQ(L"torch", registry.ButtonKey(2));
+    EXPECT_EQ(nullptr, registry.ButtonAt(3));
+    EXPECT_EQ(nullptr, registry.ButtonAt(Plugin::kMaxSlots - 1));
+}
+
 TEST_F(PluginRegistryTest, UnterminatedNamesAreCutToTheirBuffers) {
     LoadCopies({L"UnterminatedPlugin.dll"});
     ASSERT_TRUE(registry.ButtonAt(0));

@@ -8,6 +8,7 @@
  *   SAMPLE_MANY_BUTTONS  announces and names 10,000 buttons
  *   SAMPLE_UNTERMINATED  fills every name buffer to its end without a terminator
  *   SAMPLE_GAPS          declines to name the middle button and the middle action
+ *   SAMPLE_HUGE_COUNT    announces 4,294,967,295 buttons and actions, names only three of each
  */
 #include <windows.h>
 
@@ -64,6 +65,16 @@ static void Log(const char* line) {
     CloseHandle(file);
 }
 
+/* Whether a registration call is logged: a line per call would take seconds when a variant is
+ * asked for thousands of names. */
+static int Logged(int index) {
+#ifdef SAMPLE_MANY_BUTTONS
+    return index == 0 || index == BUTTON_COUNT - 1;
+#else
+    return index < (int)COUNT(kActions);
+#endif
+}
+
 /* Fills a buffer of `chars` characters: the text cut to fit and ended, or in the unterminated
  * variant a run of letters over the whole buffer. */
 static void Fill(wchar_t* buffer, int chars, const wchar_t* text) {
@@ -95,8 +106,13 @@ EXPORT int CRInit(DWORD* info, int reserved) {
     (void)info;
     return 0;
 #else
+#ifdef SAMPLE_HUGE_COUNT
+    info[1] = 0xFFFFFFFFu;
+    info[2] = 0xFFFFFFFFu;
+#else
     info[1] = BUTTON_COUNT;
     info[2] = COUNT(kActions);
+#endif
     return 1;
 #endif
 }
@@ -110,9 +126,7 @@ EXPORT int CRRegisterButtons(int index, wchar_t* name, int nameChars, wchar_t* t
                              int thirdChars, wchar_t* key, int keyChars) {
     char line[64];
     snprintf(line, sizeof line, "CRRegisterButtons %d", index);
-#ifdef SAMPLE_MANY_BUTTONS
-    if (index == 0 || index == BUTTON_COUNT - 1) /* a line per call would take seconds */
-#endif
+    if (Logged(index))
         Log(line);
 #ifdef SAMPLE_GAPS
     if (index == 1)
@@ -140,7 +154,8 @@ EXPORT int CRRegisterActions(int index, wchar_t* value, int valueChars, wchar_t*
                              int nameChars) {
     char line[64];
     snprintf(line, sizeof line, "CRRegisterActions %d", index);
-    Log(line);
+    if (Logged(index))
+        Log(line);
 #ifdef SAMPLE_GAPS
     if (index == 1)
         return 0;

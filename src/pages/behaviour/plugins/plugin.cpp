@@ -31,6 +31,10 @@ template <class Slot> void Allocate(std::vector<Slot>& slots, DWORD announced) {
 
 Plugin::Plugin(const wchar_t* path) {
     CopyToBuffer(m_path, kPluginPathChars, path);
+    // A value that held no path names no library (an empty name would not mean "none" to the
+    // loader everywhere).
+    if (!m_path[0])
+        return;
     m_module = LoadPluginLibrary(m_path);
     if (!m_module)
         return;
@@ -61,7 +65,14 @@ bool Plugin::Initialise() {
     m_update = PluginExport(m_module, "CRUpdate");
     m_executeTap = PluginExport(m_module, "CRExecuteTap");
     m_executeHold = PluginExport(m_module, "CRExecuteHold");
-    return m_init && m_init(m_info, 0) != 0;
+    if (!m_init)
+        return false;
+    // The library fills a block of its own with room past the four words, so a library that
+    // writes one word too many does not reach this object's other members.
+    DWORD info[4 + kSlack] = {};
+    const bool ok = m_init(info, 0) != 0;
+    std::copy(info, info + 4, m_info);
+    return ok;
 }
 
 void Plugin::FetchButtons(RegisterButtonFn fetch) {

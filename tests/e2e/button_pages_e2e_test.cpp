@@ -119,6 +119,23 @@ TEST_F(ButtonPagesE2E, RegisteredPluginShowsItsButtonsAndActions) {
     }
 }
 
+TEST_F(ButtonPagesE2E, PluginIsInitialisedOnceAndReleasedAtExit) {
+    const std::wstring sample = Plugin(L"SamplePlugin.dll");
+    m_plugins.Set(L"Sample", sample);
+    WriteText(L"config.ini", "");
+    ASSERT_TRUE(StartEditor());
+    const std::vector<std::string> running = PluginCalls(sample);
+    ASSERT_FALSE(running.empty());
+    EXPECT_EQ("CRInit", running.front());
+    EXPECT_EQ(0, std::count(running.begin(), running.end(), "CRDeInit"));
+    Cancel(true);
+    ASSERT_TRUE(WaitEditorExit());
+    const std::vector<std::string> calls = PluginCalls(sample);
+    ASSERT_FALSE(calls.empty());
+    EXPECT_EQ(1, std::count(calls.begin(), calls.end(), "CRInit"));
+    EXPECT_EQ("CRDeInit", calls.back());
+}
+
 TEST_F(ButtonPagesE2E, StoredPluginActionIsShownByItsNameAndSavedByItsValue) {
     m_plugins.Set(L"Sample", Plugin(L"SamplePlugin.dll"));
     WriteText(L"config.ini", "[Actions]\nButton 0 Action=smp.weather\nButton 0 Hold=SMP.MAIL\n");

@@ -184,6 +184,20 @@ TEST_F(PluginRegistryTest, AbsentSlotsAreSkippedByEveryLookup) {
     DestroyWindow(combo);
 }
 
+TEST_F(PluginRegistryTest, EmptyNamesMatchNothing) {
+    LoadCopies({L"EmptyNamesPlugin.dll"});
+    EXPECT_EQ(3u, registry.ButtonTotal());
+    ASSERT_TRUE(registry.ButtonAt(0));
+    EXPECT_EQ(nullptr, registry.ActionValue(L""));
+    EXPECT_EQ(nullptr, registry.ActionName(L""));
+    IniDocument theme;
+    EXPECT_FALSE(registry.WriteButtonImages(theme, L"", L"a", L"b"));
+    std::vector<OrderItem> items;
+    registry.AppendOrderItems(items);
+    for (const OrderItem& item : items)
+        EXPECT_FALSE(item.present);
+}
+
 TEST_F(PluginRegistryTest, ButtonsAndActionsAppendedInRegistryOrder) {
     LoadCopies({L"SamplePlugin.dll", L"GapsPlugin.dll"});
     HWND combo = MakeCombo();

@@ -8,6 +8,7 @@
  *   SAMPLE_MANY_BUTTONS  announces and names 10,000 buttons
  *   SAMPLE_UNTERMINATED  fills every name buffer to its end without a terminator
  *   SAMPLE_GAPS          declines to name the middle button and the middle action
+ *   SAMPLE_EMPTY_NAMES   accepts every registration call but leaves every name empty
  *   SAMPLE_HUGE_COUNT    announces 4,294,967,295 buttons and actions, names only three of each
  */
 #include <windows.h>
@@ -80,7 +81,11 @@ static int Logged(int index) {
 static void Fill(wchar_t* buffer, int chars, const wchar_t* text) {
     if (!buffer || chars <= 0)
         return;
-#ifdef SAMPLE_UNTERMINATED
+#if defined(SAMPLE_EMPTY_NAMES)
+    (void)text;
+    buffer[0] = L'\0';
+    (void)chars;
+#elif defined(SAMPLE_UNTERMINATED)
     (void)text;
     for (int i = 0; i < chars; ++i)
         buffer[i] = L'A' + (wchar_t)(i % 26);

@@ -16,6 +16,11 @@ std::wstring ImageKey(const wchar_t* name, const wchar_t* which) {
     return std::wstring(name) + L" " + which;
 }
 
+// A name a plug-in left empty matches nothing, not even an empty text.
+bool Matches(const wchar_t* name, const wchar_t* wanted) {
+    return name[0] && wanted && EqualsNoCase(name, wanted);
+}
+
 void AddComboRow(HWND combo, const wchar_t* text) {
     SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
 }
@@ -70,7 +75,7 @@ void PluginRegistry::AddActionNames(HWND combo) const {
 const wchar_t* PluginRegistry::ActionValue(const wchar_t* displayName) const {
     for (const Record& record : m_records) {
         for (const PluginAction& action : record.plugin->Actions()) {
-            if (action.present && EqualsNoCase(action.name, displayName))
+            if (action.present && Matches(action.name, displayName))
                 return action.value;
         }
     }
@@ -80,7 +85,7 @@ const wchar_t* PluginRegistry::ActionValue(const wchar_t* displayName) const {
 const wchar_t* PluginRegistry::ActionName(const wchar_t* value) const {
     for (const Record& record : m_records) {
         for (const PluginAction& action : record.plugin->Actions()) {
-            if (action.present && EqualsNoCase(action.value, value))
+            if (action.present && Matches(action.value, value))
                 return action.name;
         }
     }
@@ -105,15 +110,17 @@ const wchar_t* PluginRegistry::ButtonKey(size_t k) const {
 void PluginRegistry::AppendOrderItems(std::vector<OrderItem>& items) const {
     int flag = 12;
     for (const Record& record : m_records) {
+        // A button without both names can be neither listed nor stored in the order.
         for (const PluginButton& button : record.plugin->Buttons())
-            items.push_back(OrderItem{button.name, button.key, flag++, button.present});
+            items.push_back(OrderItem{button.name, button.key, flag++,
+                                      button.present && button.name[0] && button.key[0]});
     }
 }
 
 bool PluginRegistry::HasButton(const wchar_t* name) const {
     for (const Record& record : m_records) {
         for (const PluginButton& button : record.plugin->Buttons()) {
-            if (button.present && EqualsNoCase(button.name, name))
+            if (button.present && Matches(button.name, name))
                 return true;
         }
     }

@@ -35,6 +35,7 @@ start_test_bar() {
 if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then
     ensure_prefix || exit 1
     set_dpi "$dpi"
+    register_sample_plugin
     start_test_bar
     log "starting the editor on $screen ($size, $dpi dpi) in a Wine virtual desktop"
     exec "$WINE" explorer "/desktop=CV2Settings,$size" "$exe" "$@"
@@ -42,6 +43,7 @@ fi
 
 use_screen "$screen" || exit 1
 trap 'stop_wine; stop_xvfb' EXIT
+register_sample_plugin
 start_test_bar
 log "starting the editor on $screen ($size, $dpi dpi) on private display $DISPLAY"
 "$WINE" "$exe" "$@" &

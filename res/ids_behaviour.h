@@ -48,3 +48,20 @@
 #define IDD_TASK_PICKER_WIDE 131
 #define IDC_TASK_PICKER_LABEL 1311
 #define IDC_TASK_PICKER_LIST 1312
+
+// Button Assignments, in creation order.
+#define IDC_ASSIGN_BUTTON 640
+#define IDC_ASSIGN_VISIBLE 641
+#define IDC_ASSIGN_TAP_LABEL 642
+#define IDC_ASSIGN_TAP 643
+#define IDC_ASSIGN_TAP_BROWSE 644
+#define IDC_ASSIGN_HOLD_LABEL 645
+#define IDC_ASSIGN_HOLD 646
+#define IDC_ASSIGN_HOLD_BROWSE 647
+
+// Button Order.
+#define IDC_ORDER_LIST 1490
+#define IDC_ORDER_MOVE 1491
+
+// Plugins.
+#define IDC_PLUGIN_LIST 1650

@@ -9,8 +9,9 @@ WINE="$ROOT/tools/wine-run.sh"
 WINESERVER="" CONVERT="" IMPORT="" XVFB=""
 
 # Debian packages the build and the tests need.
+# The 32-bit C compiler builds a plug-in the 64-bit editor must refuse to load.
 PACKAGES="cmake make g++ googletest g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 \
-xvfb x11-utils fonts-wine imagemagick icoutils clang libclang-rt-14-dev libinih-dev"
+gcc-mingw-w64-i686-posix xvfb x11-utils fonts-wine imagemagick icoutils clang libclang-rt-14-dev libinih-dev"
 
 log() { printf '==> %s\n' "$*" >&2; }
 
@@ -51,7 +52,7 @@ resolve_tools() {
     IMPORT=$(first_tool /usr/bin/import) || missing+=("import (package imagemagick)")
     XVFB=$(first_tool Xvfb) || missing+=("Xvfb (package xvfb)")
     for t in cmake ctest make g++ x86_64-w64-mingw32-g++-posix x86_64-w64-mingw32-windres \
-        xwininfo xdpyinfo; do
+        i686-w64-mingw32-gcc-posix xwininfo xdpyinfo; do
         command -v "$t" >/dev/null 2>&1 || missing+=("$t")
     done
     [ -f /usr/src/googletest/CMakeLists.txt ] || missing+=("/usr/src/googletest (package googletest)")
@@ -166,6 +167,18 @@ use_screen() {
 # Tests start from the registry of a new device: nothing of the bar's own key is left over from
 # an earlier run, or from ./run.sh, which shares the prefix.
 reset_registry() { "$WINE" reg delete 'HKCU\Software\Thornlea' /f >/dev/null 2>&1 || true; }
+
+# Registers the device folder's sample plug-in in the private prefix, so the editor offers its
+# buttons and actions. A registration already there is left as it is (the user may have turned
+# the plug-in off on the Plugins page). Needs the prefix, so it runs after ensure_prefix.
+register_sample_plugin() {
+    local key='HKCU\Software\Thornlea\Corvane 2\Plugins'
+    "$WINE" reg query "$key" /v "Sample Plugin" >/dev/null 2>&1 && return 0
+    "$WINE" reg add "$key" /v "Sample Plugin" /t REG_SZ \
+        /d "$(winpath "$BUILD/device/SamplePlugin.dll")" /f >/dev/null 2>&1 ||
+        { log "could not register the sample plug-in"; return 1; }
+    WINEPREFIX="$CV2_WINEPREFIX" "$WINESERVER" -w
+}
 
 # The Windows form of a path of this machine, as Wine sees it.
 winpath() { printf 'Z:%s' "$(printf '%s' "$1" | tr '/' '\\')"; }

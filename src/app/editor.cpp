@@ -5,7 +5,10 @@
 #include "app/exe_folder.h"
 #include "app/page_list.h"
 #include "app/settings_app.h"
+#include "pages/behaviour/plugins/plugin_registry.h"
+#include "pages/behaviour/top_bar_state.h"
 #include "platform/com.h"
+#include "platform/device_phone.h"
 #include "store/screen.h"
 #include "ui/icon_grid.h"
 
@@ -51,6 +54,9 @@ int RunEditor(HINSTANCE instance) {
     ReadScreenDensities();
     InitializeCom();
     RegisterIconGridClass(instance);
+    // Pages read both while they are made, so both are settled first.
+    SharedTopBar().hasPhone = DeviceHasPhone();
+    SharedPlugins().LoadFromRegistry();
     {
         SettingsApp app(instance, ExeFolder() + L"config.ini", CreateMainPages());
         SetForegroundWindow(app.Window());
@@ -63,6 +69,8 @@ int RunEditor(HINSTANCE instance) {
             DispatchMessageW(&msg);
         }
     }
+    // The pages are gone: no one holds a plug-in any more.
+    SharedPlugins().Release();
     UninitializeCom();
     CloseHandle(mutex);
     return 0;

@@ -2,9 +2,12 @@
 
 #include <new>
 
+#include "pages/behaviour/button_assignments_page.h"
+#include "pages/behaviour/button_order_page.h"
 #include "pages/behaviour/clock_settings_page.h"
 #include "pages/behaviour/delays_page.h"
 #include "pages/behaviour/general_settings_page.h"
+#include "pages/behaviour/plugins/plugins_page.h"
 #include "pages/behaviour/program_directories_page.h"
 #include "pages/behaviour/rule_pages.h"
 #include "pages/behaviour/start_menu_settings_page.h"
@@ -39,7 +42,9 @@ std::vector<SettingsPage*> CreateMainPages() {
     // "Clock Settings"
     pages.push_back(Make<ClockSettingsPage>());
     // "Button Assignments"
+    pages.push_back(Make<ButtonAssignmentsPage>());
     // "Button Order"
+    pages.push_back(Make<ButtonOrderPage>());
     // "Skinned Applications"
     pages.push_back(Make<SkinnedApplicationsPage>());
     // "Theme Overrides"
@@ -47,6 +52,7 @@ std::vector<SettingsPage*> CreateMainPages() {
     // "Delays/Timers"
     pages.push_back(Make<DelaysPage>());
     // "Plugins"
+    pages.push_back(Make<PluginsPage>());
     return pages;
 }
 

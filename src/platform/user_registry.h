@@ -4,6 +4,8 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace cv2 {
 
@@ -25,5 +27,22 @@ bool ReadUserString(const wchar_t* key, const wchar_t* name, size_t bufferBytes,
 
 // Writes a REG_SZ value, creating the key when missing; false when that fails.
 bool WriteUserString(const wchar_t* key, const wchar_t* name, const std::wstring& value);
+
+// One value of a key as enumerated: its whole name and, for string types, its text up to the
+// first terminator (stored text need not have one). Other types give no text.
+struct UserValue {
+    std::wstring name;
+    bool isText = false;
+    std::wstring text;
+};
+
+// Every value of `key` under HKEY_CURRENT_USER in enumeration order, each read whole whatever
+// its size; false when the key does not exist.
+bool ReadUserValues(const wchar_t* key, std::vector<UserValue>& values);
+
+// Writes REG_SZ values into `key` only when it exists (it is never created); false when the key
+// is missing or a value could not be written.
+bool WriteUserStringsToExistingKey(
+    const wchar_t* key, const std::vector<std::pair<std::wstring, std::wstring>>& values);
 
 } // namespace cv2

@@ -126,8 +126,10 @@ TEST_F(CheckPagesE2E, ApplyOnAnEmptyConfigWritesTheDefaultsInTheirKeyOrder) {
     Apply();
     const cv2::IniDocument doc = Config();
 
-    EXPECT_EQ(Section(doc, L"TopBar Settings"),
-              (KeyLines{L"Show Tasks=TRUE", L"Animate Battery Meter=TRUE"}));
+    // The section also holds the button pages' title switch and button order, after these.
+    const KeyLines topBar = {L"Show Tasks=TRUE", L"Animate Battery Meter=TRUE"};
+    EXPECT_EQ(Among(doc, L"TopBar Settings", topBar), topBar);
+    EXPECT_EQ(Section(doc, L"TopBar Settings").front(), topBar.front());
     const cv2::LocaleTimeFacts locale = cv2::UserLocaleTimeFacts();
     const KeyLines general = {
         // General Settings

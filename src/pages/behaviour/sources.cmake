@@ -20,3 +20,11 @@ list(APPEND CV2_WIN_SOURCES
 # Program Directories: its stored values, and the page.
 list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/program_directories_values.cpp)
 list(APPEND CV2_WIN_SOURCES ${CMAKE_CURRENT_LIST_DIR}/program_directories_page.cpp)
+# Button Assignments and Button Order: their stored values, and the pages.
+list(APPEND CV2_CORE_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/button_assignments_values.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/button_order_values.cpp)
+list(APPEND CV2_WIN_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/button_assignments_page.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/button_order_page.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/top_bar_state.cpp)

@@ -151,8 +151,11 @@ TEST(ButtonAssignments, PluginActionNameStoresItsValue) {
     EXPECT_EQ(L"smp.mail", StoredValueOf(L"sample: check mail", Labels(), plugin));
 }
 
-TEST(ButtonAssignments, EmptyTextStoresNoAction) {
-    EXPECT_EQ(L"1", StoredValueOf(L"", Labels(), NoPlugin));
+// An emptied combo is text like any other: it is stored as it stands, not as "no action".
+TEST(ButtonAssignments, EmptyTextIsStoredAsItStands) {
+    EXPECT_EQ(L"", StoredValueOf(L"", Labels(), NoPlugin));
+    const auto plugin = [](const wchar_t*) -> const wchar_t* { return nullptr; };
+    EXPECT_EQ(L"", StoredValueOf(L"", Labels(), plugin));
 }
 
 TEST(ButtonAssignments, StoredValuesClassified) {

@@ -191,9 +191,6 @@ StoredKind ClassifyStored(const wchar_t* stored, int& row) {
 
 std::wstring StoredValueOf(const std::wstring& text, const std::vector<std::wstring>& labels,
                            const std::function<const wchar_t*(const wchar_t*)>& pluginValue) {
-    // An empty combo is how "no action" is shown, so it goes back as the number of no action.
-    if (text.empty())
-        return L"1";
     for (size_t row = 0; row < labels.size() && row < kBuiltInActions; ++row) {
         if (EqualsNoCase(text.c_str(), labels[row].c_str()))
             return std::to_wstring(row + 2);

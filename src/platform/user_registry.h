@@ -34,6 +34,7 @@ struct UserValue {
     std::wstring name;
     bool isText = false;
     std::wstring text;
+    size_t dataBytes = 0; // the stored data's size, whatever its type
 };
 
 // Every value of `key` under HKEY_CURRENT_USER in enumeration order, each read whole whatever

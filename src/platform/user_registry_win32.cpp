@@ -110,6 +110,7 @@ bool EnumValue(HKEY hkey, DWORD index, UserValue& value) {
         if (rc != ERROR_SUCCESS)
             return false;
         value.name.assign(name.data(), std::min<size_t>(nameChars, name.size()));
+        value.dataBytes = bytes;
         value.isText = type == REG_SZ || type == REG_EXPAND_SZ;
         value.text =
             value.isText ? TextOfData(data, std::min<DWORD>(bytes, data.size())) : std::wstring();

@@ -62,3 +62,9 @@ TEST(PluginValue, CopyToBufferCutsAndEnds) {
     CopyToBuffer(buffer, 5, nullptr);
     EXPECT_STREQ(L"", buffer);
 }
+
+TEST(PluginValues, ValuesFitTheBuffersTheListIsReadWith) {
+    EXPECT_TRUE(cv2::FitsPluginBuffers(std::wstring(49, L'n'), 524));
+    EXPECT_FALSE(cv2::FitsPluginBuffers(std::wstring(50, L'n'), 10));
+    EXPECT_FALSE(cv2::FitsPluginBuffers(L"Plugin", 525));
+}

@@ -298,22 +298,29 @@ TEST_F(PluginRegistryFromRegistry, ValueOfTheWrongTypeIsListedWithoutALibrary) {
     EXPECT_TRUE(registry.At(1).enabled);
 }
 
-TEST_F(PluginRegistryFromRegistry, TwoThousandCharacterValueIsListedCut) {
+TEST_F(PluginRegistryFromRegistry, TwoThousandCharacterValueEndsTheListThere) {
+    key.Set(L"A Sample", CopyPlugin(dir, L"SamplePlugin.dll"));
     key.Set(L"Long", L"C:\\" + std::wstring(2000, L'a') + L".dll");
-    key.Set(L"Sample", CopyPlugin(dir, L"SamplePlugin.dll"));
-    registry.LoadFromRegistry();
-    ASSERT_EQ(2u, registry.Count());
-    EXPECT_EQ(kPluginPathChars - 1, wcslen(registry.At(0).plugin->Path()));
-    EXPECT_FALSE(registry.At(0).enabled);
-    EXPECT_TRUE(registry.At(1).enabled);
-}
-
-TEST_F(PluginRegistryFromRegistry, LongRegistrationNameIsKeptWhole) {
-    const std::wstring name(120, L'n');
-    key.Set(name, CopyPlugin(dir, L"SamplePlugin.dll"));
+    key.Set(L"Z Sample", CopyPlugin(dir, L"SamplePlugin.dll"));
     registry.LoadFromRegistry();
     ASSERT_EQ(1u, registry.Count());
-    EXPECT_EQ(name, registry.At(0).name);
+    EXPECT_EQ(L"A Sample", registry.At(0).name);
+}
+
+TEST_F(PluginRegistryFromRegistry, DataOfExactlyTheBufferSizeIsStillRead) {
+    // 261 characters and the terminator: 524 bytes.
+    key.Set(L"Fits", L"C:\\" + std::wstring(258, L'a'));
+    registry.LoadFromRegistry();
+    ASSERT_EQ(1u, registry.Count());
+    EXPECT_EQ(kPluginPathChars - 1, wcslen(registry.At(0).plugin->Path()));
+}
+
+TEST_F(PluginRegistryFromRegistry, RegistrationNameLongerThanItsBufferEndsTheList) {
+    key.Set(std::wstring(49, L'a'), CopyPlugin(dir, L"SamplePlugin.dll"));
+    key.Set(std::wstring(50, L'b'), CopyPlugin(dir, L"SamplePlugin.dll"));
+    registry.LoadFromRegistry();
+    ASSERT_EQ(1u, registry.Count());
+    EXPECT_EQ(std::wstring(49, L'a'), registry.At(0).name);
 }
 
 TEST_F(PluginRegistryFromRegistry, UnterminatedRegistryTextIsRead) {

@@ -36,6 +36,8 @@ void PluginRegistry::LoadFromRegistry() {
 void PluginRegistry::Load(const std::vector<UserValue>& values) {
     Release();
     for (const UserValue& value : values) {
+        if (!FitsPluginBuffers(value.name, value.dataBytes))
+            break;
         const PluginRegistration registration =
             ParsePluginValue(value.name, value.isText, value.text);
         Record record;

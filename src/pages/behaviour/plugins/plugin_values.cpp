@@ -4,6 +4,10 @@
 
 namespace cv2 {
 
+bool FitsPluginBuffers(const std::wstring& name, size_t dataBytes) {
+    return name.size() < kPluginRegistrationChars && dataBytes <= kPluginDataBytes;
+}
+
 PluginRegistration ParsePluginValue(const std::wstring& name, bool isText,
                                     const std::wstring& text) {
     PluginRegistration plugin;

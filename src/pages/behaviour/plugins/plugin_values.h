@@ -12,7 +12,9 @@ constexpr wchar_t kPluginsRegistryKey[] = L"Software\\Thornlea\\Corvane 2\\Plugi
 
 // Buffer sizes in characters, terminator included; texts are cut to fit them.
 constexpr size_t kPluginPathChars = 260;
-constexpr size_t kPluginDataChars = 524 / sizeof(char16_t); // the value's data buffer
+constexpr size_t kPluginDataBytes = 524; // the value's data buffer, in bytes
+constexpr size_t kPluginDataChars = kPluginDataBytes / sizeof(char16_t);
+constexpr size_t kPluginRegistrationChars = 50; // the value's name buffer
 constexpr size_t kPluginNameChars = 50;  // button display names and third names, action names
 constexpr size_t kPluginKeyChars = 25;   // button key names
 constexpr size_t kPluginValueChars = 25; // action stored values
@@ -25,6 +27,11 @@ struct PluginRegistration {
     std::wstring path; // library path, cut to its buffer
     bool disabled = false;
 };
+
+// True when a value fits the buffers the plug-in list is read with (a name of at most 49
+// characters, data of at most 524 bytes). The list ends at the first value that does not, as an
+// enumeration with those buffers fails there.
+bool FitsPluginBuffers(const std::wstring& name, size_t dataBytes);
 
 // A value of any type is a plug-in; one that holds no text has an empty path (its library then
 // fails to load and the plug-in is listed unchecked).

@@ -3,7 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "app/page_list.h"
 #include "ids_behaviour.h"
+#include "pages/behaviour/program_directories_page.h"
+#include "platform/file_access.h"
 #include "ids_themes.h"
 #include "rule_page_support.h"
 #include "store/scale.h"
@@ -254,4 +259,53 @@ TEST_F(ThemeCataloguePageTest, SquareScreensShowDetailsBehindAButton) {
     Click(ThemeCataloguePage::DetailsButton);
     EXPECT_TRUE(driver.AllStepsRun());
     EXPECT_EQ(shown.substr(0, 11), L"Author: Ann");
+}
+
+TEST_F(ThemeCataloguePageTest, DeletingAThemeWhoseFolderVanishedJustListsAnew) {
+    StandardThemes();
+    Open("");
+    Select(L"Deep Blue");
+    ASSERT_TRUE(RemoveFolderTree(m_dir.File(L"Themes\\Blue")));
+    DialogDriver driver({[](HWND box) { PressItem(box, IDYES); }});
+    Click(ThemeCataloguePage::Delete);
+    EXPECT_TRUE(driver.AllStepsRun());
+    EXPECT_EQ(Listed(), (Texts{L"[1.x Theme] old", L"Custom Theme", L"plain"}));
+}
+
+TEST_F(ThemeCataloguePageTest, ApplyOfAnOlderThemeWhoseFileVanishedConvertsAnEmptyTheme) {
+    StandardThemes();
+    Open("");
+    Select(L"[1.x Theme] old");
+    ASSERT_TRUE(RemoveFolderTree(m_dir.File(L"Themes\\Old")));
+    m_page.Save(nullptr);
+    EXPECT_EQ(Value(L"Theme File"), m_dir.File(L"config.ini"));
+    EXPECT_EQ(m_doc.GetString(L"Topbar", L"Mode", L""), L"Scaled");
+}
+
+// The main window's page list ties Program Directories to the catalogue: saving new theme
+// folders lists the themes in them.
+TEST_F(ThemeCataloguePageTest, SavingProgramDirectoriesReloadsTheMainWindowsCatalogue) {
+    std::vector<SettingsPage*> pages = CreateMainPages();
+    ASSERT_GE(pages.size(), 2u);
+    auto* catalogue = dynamic_cast<ThemeCataloguePage*>(pages[0]);
+    auto* directories = dynamic_cast<ProgramDirectoriesPage*>(pages[1]);
+    ASSERT_TRUE(catalogue && directories);
+    Theme(L"Extra\\E\\e.skin", "[Skin Info]\nName=Extra\n");
+    m_doc.Load(m_dir.File(L"config.ini"));
+    {
+        PageHost host;
+        host.Add(*catalogue);
+        host.Add(*directories, false);
+        catalogue->Load(&m_doc);
+        directories->Load(&m_doc);
+        const std::wstring extra = m_dir.File(L"Extra");
+        SendMessageW(directories->Window(ProgramDirectoriesPage::List), LB_ADDSTRING, 0,
+                     reinterpret_cast<LPARAM>(extra.c_str()));
+        directories->Save(nullptr);
+        const Texts listed = ListBoxTexts(catalogue->Window(ThemeCataloguePage::List));
+        EXPECT_NE(std::find(listed.begin(), listed.end(), L"Extra"), listed.end());
+        Pump();
+    }
+    for (SettingsPage* page : pages)
+        delete page;
 }

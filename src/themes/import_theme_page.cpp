@@ -10,6 +10,7 @@
 #include "themes/theme_info_dialog.h"
 #include "themes/theme_transfer.h"
 #include "ui/child_controls.h"
+#include "ui/wait_cursor.h"
 #include "ui/file_browser.h"
 
 namespace cv2 {
@@ -22,18 +23,6 @@ const ChildControl kButtons[] = {
 
 // The buttons keep their 96-dpi places on every screen: left, top, width, height.
 const RECT kButtonPlaces[] = {{77, 29, 85, 23}, {77, 55, 85, 23}};
-
-// Changes the cursor to the wait cursor for as long as it lives.
-class WaitCursor {
-  public:
-    WaitCursor() : m_old(SetCursor(LoadCursorW(nullptr, IDC_WAIT))) {}
-    ~WaitCursor() { SetCursor(m_old); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-
-  private:
-    HCURSOR m_old;
-};
 
 } // namespace
 

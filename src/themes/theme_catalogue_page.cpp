@@ -10,6 +10,7 @@
 #include "themes/older_theme_device.h"
 #include "themes/theme_editor.h"
 #include "ui/child_controls.h"
+#include "ui/wait_cursor.h"
 #include "ui/shared_fonts.h"
 
 namespace cv2 {
@@ -28,17 +29,6 @@ const ChildControl kDetailsButton = {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, I
 
 // The details box shows at most this much of the details.
 constexpr int kDetailsBoxChars = 1024;
-
-class WaitCursor {
-  public:
-    WaitCursor() : m_old(SetCursor(LoadCursorW(nullptr, IDC_WAIT))) {}
-    ~WaitCursor() { SetCursor(m_old); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-
-  private:
-    HCURSOR m_old;
-};
 
 LRESULT Send(HWND window, UINT msg, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendMessageW(window, msg, wParam, lParam);
@@ -133,6 +123,8 @@ void ThemeCataloguePage::Reload() {
 
 void ThemeCataloguePage::Fill() {
     WaitCursor wait;
+    // A shown list would repaint for every row added; it is drawn once, when full.
+    Send(m_controls[List], WM_SETREDRAW, FALSE);
     Send(m_controls[List], LB_RESETCONTENT);
     m_entries.clear();
     const std::wstring prefix = Localized(IDS_OLDER_THEME_PREFIX);
@@ -150,6 +142,8 @@ void ThemeCataloguePage::Fill() {
         Send(m_controls[List], LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(kCustomThemeText));
     if (row >= 0)
         Send(m_controls[List], LB_SETITEMDATA, static_cast<WPARAM>(row), 0);
+    Send(m_controls[List], WM_SETREDRAW, TRUE);
+    InvalidateRect(m_controls[List], nullptr, TRUE);
 }
 
 // The first row whose file is the one config.ini names; the custom theme's file is config.ini.

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "bench_timing.h"
+#include "platform/file_access.h"
 
 using cv2bench::Median;
 using cv2bench::Now;
@@ -52,24 +53,6 @@ std::string ThemeText(int n) {
     return text;
 }
 
-void RemoveTree(const std::wstring& dir) {
-    WIN32_FIND_DATAW data;
-    HANDLE find = FindFirstFileW((dir + L"*").c_str(), &data);
-    if (find != INVALID_HANDLE_VALUE) {
-        do {
-            const std::wstring name = data.cFileName;
-            if (name == L"." || name == L"..")
-                continue;
-            if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
-                RemoveTree(dir + name + L"\\");
-            else
-                DeleteFileW((dir + name).c_str());
-        } while (FindNextFileW(find, &data));
-        FindClose(find);
-    }
-    RemoveDirectoryW(dir.c_str());
-}
-
 // A scratch device folder with the program, an empty config.ini and `themes` theme folders.
 class DeviceFolder {
   public:
@@ -88,7 +71,7 @@ class DeviceFolder {
             WriteFileText(folder + L"\\Theme" + std::to_wstring(i) + L".skin", ThemeText(i));
         }
     }
-    ~DeviceFolder() { RemoveTree(m_dir); }
+    ~DeviceFolder() { cv2::RemoveFolderTree(m_dir); }
     std::wstring Program() const { return m_dir + L"CV2Settings.exe"; }
 
   private:

@@ -27,24 +27,6 @@ std::wstring UniqueScratchFolder() {
     }
 }
 
-void RemoveTree(const std::wstring& dir) {
-    WIN32_FIND_DATAW data;
-    HANDLE find = FindFirstFileW((dir + L"*").c_str(), &data);
-    if (find != INVALID_HANDLE_VALUE) {
-        do {
-            std::wstring name = data.cFileName;
-            if (name == L"." || name == L"..")
-                continue;
-            if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
-                RemoveTree(dir + name + L"\\");
-            else
-                DeleteFileW((dir + name).c_str());
-        } while (FindNextFileW(find, &data));
-        FindClose(find);
-    }
-    RemoveDirectoryW(dir.c_str());
-}
-
 bool Launch(const std::wstring& exe, const std::wstring& arguments, PROCESS_INFORMATION& pi) {
     std::wstring line = L"\"" + exe + L"\" " + arguments;
     std::vector<wchar_t> buffer(line.begin(), line.end());
@@ -72,7 +54,7 @@ void DeviceFixture::TearDown() {
         WaitEditorExit(5000);
     }
     StopBar();
-    RemoveTree(m_dir);
+    cv2::RemoveFolderTree(m_dir);
     DeleteFileW(m_logPath.c_str());
 }
 

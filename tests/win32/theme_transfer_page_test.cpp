@@ -116,6 +116,12 @@ void ImportThrough(HWND dlg, const std::wstring& path) {
     DialogDriver::Click(dlg, IDC_IMPORT_THEME);
 }
 
+// Presses Export Theme and ends the information dialog with `endWith` after filling it in.
+void ExportThrough(HWND dlg, const std::wstring& path, int endWith = IDOK) {
+    DialogDriver::OnNextDialog([=](HWND info) { FillInfo(info, path); }, endWith);
+    DialogDriver::Click(dlg, IDC_EXPORT_THEME);
+}
+
 } // namespace
 
 TEST_F(ImportThemePageTest, ImportMergesTheChosenThemeAndReloadsThePages) {
@@ -150,9 +156,7 @@ TEST_F(ImportThemePageTest, ExportWritesThePagesAndTheThemeInformationIntoTheNew
     RunEditor(
         [&](HWND dlg) {
             TypeInto(dlg, 3001, L"as shown");
-            DialogDriver::OnNextDialog([&](HWND info) { FillInfo(info, dir.File(L"out.skin")); },
-                                       IDOK);
-            DialogDriver::Click(dlg, IDC_EXPORT_THEME);
+            ExportThrough(dlg, dir.File(L"out.skin"));
         },
         IDCANCEL);
     IniDocument written;
@@ -164,13 +168,7 @@ TEST_F(ImportThemePageTest, ExportWritesThePagesAndTheThemeInformationIntoTheNew
 }
 
 TEST_F(ImportThemePageTest, CancelledExportDialogWritesNothing) {
-    RunEditor(
-        [&](HWND dlg) {
-            DialogDriver::OnNextDialog([&](HWND info) { FillInfo(info, dir.File(L"no.skin")); },
-                                       IDCANCEL);
-            DialogDriver::Click(dlg, IDC_EXPORT_THEME);
-        },
-        IDCANCEL);
+    RunEditor([&](HWND dlg) { ExportThrough(dlg, dir.File(L"no.skin"), IDCANCEL); }, IDCANCEL);
     IniDocument written;
     EXPECT_FALSE(written.Load(dir.File(L"no.skin")));
 }
@@ -200,9 +198,7 @@ TEST_F(ImportThemePageTest, ExportToTheImagesFolderWritesBareNamesAndCarriesTheT
     RunEditor(
         [&](HWND dlg) {
             TypeInto(dlg, 3001, dir.File(L"bar.png"));
-            DialogDriver::OnNextDialog([&](HWND info) { FillInfo(info, dir.File(L"out.skin")); },
-                                       IDOK);
-            DialogDriver::Click(dlg, IDC_EXPORT_THEME);
+            ExportThrough(dlg, dir.File(L"out.skin"));
         },
         IDCANCEL);
     IniDocument written;
@@ -214,13 +210,7 @@ TEST_F(ImportThemePageTest, ExportToTheImagesFolderWritesBareNamesAndCarriesTheT
 TEST_F(ImportThemePageTest, ExportingOverAnExistingFileKeepsItsKeysThatNoPageWrites) {
     dir.Write(L"over.skin",
               "[Skin Info]\r\nNotes=mine\r\n[Extra]\r\nKey=kept\r\n[Test]\r\nA=old\r\n");
-    RunEditor(
-        [&](HWND dlg) {
-            DialogDriver::OnNextDialog([&](HWND info) { FillInfo(info, dir.File(L"over.skin")); },
-                                       IDOK);
-            DialogDriver::Click(dlg, IDC_EXPORT_THEME);
-        },
-        IDCANCEL);
+    RunEditor([&](HWND dlg) { ExportThrough(dlg, dir.File(L"over.skin")); }, IDCANCEL);
     IniDocument written;
     ASSERT_TRUE(written.Load(dir.File(L"over.skin")));
     EXPECT_EQ(written.GetString(L"Extra", L"Key", L""), L"kept");

@@ -29,6 +29,8 @@
 #define IDC_INFO_PATH 2497
 #define IDC_INFO_BROWSE 2498
 #define IDC_INFO_HIRES 2499
+// Export only: copy the theme's files into its folder (ten times its text's number).
+#define IDC_INFO_COPY_FILES 12510
 
 // Import Theme page (ten times its title's and its second button's numbers).
 #define IDC_IMPORT_THEME 1360

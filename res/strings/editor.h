@@ -11,3 +11,6 @@ CV_STRING(IDS_THEME_HIRES, 253, L"This theme is hi-res")
 CV_STRING(IDS_PANEL_SETTINGS, 275, L"Settings")
 CV_STRING(IDS_PANEL_CUSTOM_COLORS, 276, L"Use Custom Colors")
 CV_STRING(IDS_THEME_INFO_TITLE, 1250, L"Theme Information")
+// Export: copying the theme's pictures and sounds into its folder.
+CV_STRING(IDS_EXPORT_COPY_FILES, 1251, L"Copy pictures and sounds into the theme's folder")
+CV_STRING(IDS_EXPORT_COPY_FAILED, 1252, L"These files could not be copied into %s:\r\n")

@@ -13,3 +13,5 @@ CV_STRING(IDS_CUSTOMIZE, 274, L"Customize")
 // The catalogue's own title for its "Details" button and box: number 297 is the Delays page's
 // "Notify Reminder:" in every language module.
 CV_STRING(IDS_THEME_DETAILS, 1070, L"Details")
+// Ends the details of a theme whose pictures or sounds are missing; the missing paths follow.
+CV_STRING(IDS_MISSING_FILES, 1071, L"\r\nMissing files: %s\r\n")

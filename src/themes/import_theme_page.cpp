@@ -1,15 +1,22 @@
 #include "themes/import_theme_page.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "app/app_messages.h"
 #include "ids_editor.h"
+#include "pages/appearance/theme_path_keys.h"
+#include "store/format_text.h"
+#include "store/paths.h"
 #include "store/scale.h"
 #include "themes/image_panel.h"
 #include "themes/older_theme_device.h"
+#include "themes/theme_files.h"
 #include "themes/theme_info_dialog.h"
 #include "themes/theme_transfer.h"
 #include "ui/child_controls.h"
+#include "ui/control_layout.h"
 #include "ui/wait_cursor.h"
 #include "ui/file_browser.h"
 
@@ -21,8 +28,24 @@ const ChildControl kButtons[] = {
     {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_EXPORT_THEME, IDC_EXPORT_THEME},
 };
 
-// The buttons keep their 96-dpi places on every screen: left, top, width, height.
-const RECT kButtonPlaces[] = {{77, 29, 85, 23}, {77, 55, 85, 23}};
+// The buttons keep their places on every screen.
+const ControlPlace kButtonPlaces[] = {
+    {IDC_IMPORT_THEME, From::Left, 77, From::Left, 162, 9, 23},
+    {IDC_EXPORT_THEME, From::Left, 77, From::Left, 162, 35, 23},
+};
+
+// Tells the user which files did not reach the export folder; the theme names those by their
+// old paths.
+void TellCopyFailed(HWND owner, const std::wstring& folder,
+                    const std::vector<std::wstring>& files) {
+    constexpr size_t kMostListed = 10;
+    std::wstring text = FormatText(Localized(IDS_EXPORT_COPY_FAILED), {folder});
+    for (size_t i = 0; i < files.size() && i < kMostListed; ++i)
+        text += files[i] + L"\r\n";
+    if (files.size() > kMostListed)
+        text += L"...\r\n";
+    MessageBoxW(owner, text.c_str(), Localized(IDS_EXPORT_THEME), MB_OK | MB_ICONWARNING);
+}
 
 } // namespace
 
@@ -31,11 +54,7 @@ ImportThemePage::ImportThemePage() : SettingsPage(IDS_IMPORT_THEME) {}
 void ImportThemePage::Create(HWND host) {
     m_host = host;
     CreateChildControls(host, kButtons, 2, m_buttons);
-    for (int i = 0; i < 2; ++i) {
-        const RECT& p = kButtonPlaces[i];
-        MoveWindow(m_buttons[i], ScaleX(p.left), Scale(p.top), ScaleX(p.right), Scale(p.bottom),
-                   FALSE);
-    }
+    PlaceControls(host, Area(), kButtonPlaces);
 }
 
 void ImportThemePage::Show(bool visible) {
@@ -68,24 +87,34 @@ void ImportThemePage::OnDestroy() {
 void ImportThemePage::Import() {
     FileBrowser browser(false, false);
     browser.SetFilter(Localized(IDS_SKIN_FILTER), true, L"skins");
-    if (!m_doc || !browser.Run(m_host))
+    if (!Doc() || !browser.Run(m_host))
         return;
     IniDocument chosen;
     chosen.Load(browser.result);
     WaitCursor wait;
-    ImportTheme(*m_doc, chosen, DeviceOlderThemeColors());
+    ImportTheme(*Doc(), chosen, DeviceOlderThemeColors());
     SendMessageW(m_host, UpdateThemeMessage(), 0, 0);
 }
 
 void ImportThemePage::Export() {
     ThemeInfo info;
     std::unique_ptr<IniDocument> theme(AskThemeInfo(info, m_host));
-    if (!theme || !m_doc)
+    if (!theme || !Doc())
         return;
-    WaitCursor wait;
-    SendMessageW(m_host, ExportThemeMessage(), 0, reinterpret_cast<LPARAM>(theme.get()));
-    FinishExport(*theme, *m_doc);
-    theme->Save();
+    std::vector<std::wstring> failed;
+    {
+        WaitCursor wait;
+        SendMessageW(m_host, ExportThemeMessage(), 0, reinterpret_cast<LPARAM>(theme.get()));
+        // Copied files get their bare names first; then the paths into the export folder that
+        // are left are made relative. The theme file is written last, whole or not at all.
+        if (info.copyFiles)
+            failed = CopyThemeFiles(*theme, FolderOf(Doc()->Path()), FolderOf(theme->Path()),
+                                    ThemePathKeys());
+        FinishExport(*theme, *Doc());
+        theme->Save();
+    }
+    if (!failed.empty())
+        TellCopyFailed(m_host, FolderOf(theme->Path()), failed);
 }
 
 } // namespace cv2

@@ -2,14 +2,18 @@
 
 #include "app/exe_folder.h"
 #include "ids_themes.h"
+#include "pages/appearance/theme_path_keys.h"
 #include "platform/file_access.h"
+#include "store/config_sections.h"
 #include "store/paths.h"
 #include "store/scale.h"
 #include "store/screen.h"
 #include "themes/older_theme.h"
 #include "themes/older_theme_device.h"
 #include "themes/theme_editor.h"
+#include "themes/theme_files.h"
 #include "ui/child_controls.h"
+#include "ui/control_layout.h"
 #include "ui/wait_cursor.h"
 #include "ui/shared_fonts.h"
 
@@ -26,6 +30,22 @@ const ChildControl kControls[ThemeCataloguePage::DetailsButton] = {
 };
 const ChildControl kDetailsButton = {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_THEME_DETAILS,
                                      IDC_THEMES_DETAILS_BUTTON};
+
+// Places on the three screen shapes: the list with the details beside it (landscape) or below
+// it (portrait); on a square screen a "Details" button stands for the box.
+const ControlPlace kWidePlaces[] = {
+    {IDC_THEMES_LIST, From::Left, 0, From::Left, 162, 3, 141},
+    {IDC_THEMES_DETAILS, From::Left, 165, From::Left, 320, 3, 165},
+};
+const ControlPlace kNarrowPlaces[] = {
+    {IDC_THEMES_LIST, From::Left, 0, From::Left, 240, 3, 141},
+    {IDC_THEMES_DETAILS, From::Left, 0, From::Left, 240, 169, 79},
+};
+const ControlPlace kButtonPlaces[] = {
+    {IDC_THEMES_CUSTOMIZE, From::Left, 5, From::Left, 80, 147, 20},
+    {IDC_THEMES_DELETE, From::Left, 82, From::Left, 157, 147, 20},
+    {IDC_THEMES_DETAILS_BUTTON, From::Left, 159, From::Left, 234, 147, 20},
+};
 
 // The details box shows at most this much of the details.
 constexpr int kDetailsBoxChars = 1024;
@@ -57,10 +77,6 @@ ThemeCataloguePage::~ThemeCataloguePage() {
     OnDestroy();
 }
 
-void ThemeCataloguePage::Place(Control c, int left, int top, int width, int height) const {
-    MoveWindow(m_controls[c], ScaleX(left), Scale(top), ScaleX(width), Scale(height), TRUE);
-}
-
 void ThemeCataloguePage::Create(HWND host) {
     m_host = host;
     CreateChildControls(host, kControls, DetailsButton, m_controls);
@@ -68,11 +84,7 @@ void ThemeCataloguePage::Create(HWND host) {
     SetControlFont(m_controls[Delete], CaptionFont());
     EnableWindow(m_controls[Customize], FALSE);
     EnableWindow(m_controls[Delete], FALSE);
-    Place(Customize, 5, 167, 75, 20);
-    Place(Delete, 82, 167, 75, 20);
-    RECT client;
-    GetClientRect(host, &client);
-    OnSize(client);
+    OnSize(Area());
 }
 
 void ThemeCataloguePage::Show(bool visible) {
@@ -91,22 +103,19 @@ void ThemeCataloguePage::OnSize(const RECT&) {
         return;
     const bool portraitWidth = IsPortraitWidth(ScreenWidth());
     const bool square = portraitWidth && IsPortraitWidth(ScreenHeight());
-    if (!portraitWidth) {
-        Place(List, 0, 23, 162, 141);
-        Place(DetailsText, 165, 23, 155, 165);
-    } else {
-        Place(List, 0, 23, 240, 141);
-        Place(DetailsText, 0, 189, 240, 79);
-    }
+    if (portraitWidth)
+        PlaceControls(m_host, Area(), kNarrowPlaces);
+    else
+        PlaceControls(m_host, Area(), kWidePlaces);
     if (square && !m_controls[DetailsButton]) {
         CreateChildControls(m_host, &kDetailsButton, 1, &m_controls[DetailsButton]);
         SetControlFont(m_controls[DetailsButton], CaptionFont());
-        Place(DetailsButton, 159, 167, 75, 20);
         const bool shown = IsWindowVisible(m_controls[List]) != FALSE;
         ShowWindow(m_controls[DetailsButton], shown ? SW_SHOW : SW_HIDE);
         ShowWindow(m_controls[DetailsText], SW_HIDE);
         EnableWindow(m_controls[DetailsButton], Selected() != nullptr);
     }
+    PlaceControls(m_host, Area(), kButtonPlaces);
 }
 
 void ThemeCataloguePage::Load(IniDocument* doc) {
@@ -115,7 +124,7 @@ void ThemeCataloguePage::Load(IniDocument* doc) {
 }
 
 void ThemeCataloguePage::Reload() {
-    if (!m_doc || !m_controls[List])
+    if (!Doc() || !m_controls[List])
         return;
     Fill();
     SelectThemeFile();
@@ -128,7 +137,7 @@ void ThemeCataloguePage::Fill() {
     Send(m_controls[List], LB_RESETCONTENT);
     m_entries.clear();
     const std::wstring prefix = Localized(IDS_OLDER_THEME_PREFIX);
-    for (ThemeEntry& found : ScanThemes(m_programFolder, *m_doc)) {
+    for (ThemeEntry& found : ScanThemes(m_programFolder, *Doc())) {
         m_entries.push_back(std::make_unique<ThemeEntry>(std::move(found)));
         const ThemeEntry* entry = m_entries.back().get();
         const std::wstring text = ThemeDisplayText(*entry, prefix);
@@ -151,15 +160,15 @@ void ThemeCataloguePage::Fill() {
 // details follow.
 void ThemeCataloguePage::SelectThemeFile() {
     const std::wstring themeFile =
-        m_doc->GetString(L"Settings", L"Theme File", DefaultThemeFile(m_programFolder).c_str(),
-                         static_cast<int>(kMaxPath));
+        Doc()->GetString(config::kSettings, config::kThemeFile,
+                         DefaultThemeFile(m_programFolder).c_str(), static_cast<int>(kMaxPath));
     HWND list = m_controls[List];
     const LRESULT count = Send(list, LB_GETCOUNT);
     Send(list, LB_SETCURSEL, static_cast<WPARAM>(-1));
     for (LRESULT row = 0; row < count; ++row) {
         const auto* entry = reinterpret_cast<const ThemeEntry*>(
             Send(list, LB_GETITEMDATA, static_cast<WPARAM>(row)));
-        const std::wstring& path = entry ? entry->path : m_doc->Path();
+        const std::wstring& path = entry ? entry->path : Doc()->Path();
         if (EqualsNoCase(path.c_str(), themeFile.c_str())) {
             Send(list, LB_SETCURSEL, static_cast<WPARAM>(row));
             break;
@@ -192,10 +201,19 @@ void ThemeCataloguePage::OnSelectionChange() {
     ShowDetails(entry);
 }
 
+// The details end with the files the theme names but lacks. The theme is read again here, on
+// selection, so that the scan of hundreds of themes does not pay for it.
 void ThemeCataloguePage::ShowDetails(const ThemeEntry* entry) {
     HWND edit = m_controls[DetailsText];
-    SetVerticalScrollBar(edit, entry && !entry->notes.empty());
-    SetWindowTextW(edit, entry ? ThemeDetailsText(*entry).c_str() : L"");
+    std::wstring missing;
+    if (entry && entry->isCurrentFormat) {
+        IniDocument theme;
+        theme.Load(entry->path);
+        missing = MissingFilesText(MissingFiles(theme, FolderOf(entry->path), ThemePathKeys()),
+                                   Localized(IDS_MISSING_FILES));
+    }
+    SetVerticalScrollBar(edit, entry && (!entry->notes.empty() || !missing.empty()));
+    SetWindowTextW(edit, entry ? (ThemeDetailsText(*entry) + missing).c_str() : L"");
 }
 
 // Only this page's own controls are taken, by window handle: other pages share the host.
@@ -228,9 +246,9 @@ bool ThemeCataloguePage::OnCommand(WPARAM wParam, LPARAM lParam) {
 // The editor works on the custom theme, i.e. on config.ini's own document; whether it ended
 // with OK does not matter here (the document holds whatever it saved).
 void ThemeCataloguePage::OpenEditor() {
-    if (!m_doc)
+    if (!Doc())
         return;
-    ThemeEditor editor(m_doc);
+    ThemeEditor editor(Doc());
     editor.Run(m_host);
 }
 
@@ -258,26 +276,26 @@ void ThemeCataloguePage::ShowDetailsBox() const {
 }
 
 void ThemeCataloguePage::Save(IniDocument* target) {
-    if ((!target && !m_doc) || !m_controls[List])
+    if ((!target && !Doc()) || !m_controls[List])
         return;
     IniDocument& doc = SaveTarget(target);
-    const std::wstring configPath = m_doc ? m_doc->Path() : doc.Path();
+    const std::wstring configPath = Doc() ? Doc()->Path() : doc.Path();
     bool customTheme = false;
     const ThemeEntry* entry = Selected(&customTheme);
     if (!entry && !customTheme)
         return;
     if (customTheme) {
-        doc.SetString(L"Settings", L"Theme File", configPath.c_str());
+        doc.SetString(config::kSettings, config::kThemeFile, configPath.c_str());
     } else if (entry->isCurrentFormat) {
-        doc.SetString(L"Settings", L"Theme File", entry->path.c_str());
+        doc.SetString(config::kSettings, config::kThemeFile, entry->path.c_str());
     } else {
         // An older theme is converted into config.ini and becomes the custom theme.
         IniDocument older;
         older.Load(entry->path);
         ConvertOlderTheme(older, doc, DeviceOlderThemeColors());
-        doc.SetString(L"Settings", L"Theme File", configPath.c_str());
+        doc.SetString(config::kSettings, config::kThemeFile, configPath.c_str());
     }
-    doc.SetBool(L"Settings", L"Theme On Card", entry && ThemeOnCard(entry->path));
+    doc.SetBool(config::kSettings, config::kThemeOnCard, entry && ThemeOnCard(entry->path));
 }
 
 void ThemeCataloguePage::OnDestroy() {

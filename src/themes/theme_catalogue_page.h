@@ -46,7 +46,6 @@ class ThemeCataloguePage : public SettingsPage {
     void OpenEditor();
     void DeleteSelected();
     void ShowDetailsBox() const;
-    void Place(Control c, int left, int top, int width, int height) const;
 
     std::wstring m_programFolder;
     HWND m_host = nullptr;

@@ -12,9 +12,13 @@ namespace cv2 {
 namespace {
 
 const ControlText kTexts[] = {
-    {IDC_INFO_NAME_LABEL, IDS_THEME_NAME},   {IDC_INFO_AUTHOR_LABEL, IDS_THEME_AUTHOR},
-    {IDC_INFO_EMAIL_LABEL, IDS_THEME_EMAIL}, {IDC_INFO_PATH_LABEL, IDS_THEME_PATH},
-    {IDC_INFO_HIRES, IDS_THEME_HIRES},       {IDCANCEL, IDS_CANCEL},
+    {IDC_INFO_NAME_LABEL, IDS_THEME_NAME},
+    {IDC_INFO_AUTHOR_LABEL, IDS_THEME_AUTHOR},
+    {IDC_INFO_EMAIL_LABEL, IDS_THEME_EMAIL},
+    {IDC_INFO_PATH_LABEL, IDS_THEME_PATH},
+    {IDC_INFO_HIRES, IDS_THEME_HIRES},
+    {IDCANCEL, IDS_CANCEL},
+    {IDC_INFO_COPY_FILES, IDS_EXPORT_COPY_FILES},
 };
 
 // Each label beside its box; one table serves every screen shape.
@@ -29,7 +33,8 @@ const ControlPlace kPlaces[] = {
     {IDC_INFO_PATH, From::Left, 90, From::Right, -31, 79, 21},
     {IDC_INFO_BROWSE, From::Right, -28, From::Right, -4, 79, 21},
     {IDC_INFO_HIRES, From::Left, 4, From::Right, -4, 106, 21},
-    {IDCANCEL, From::Right, -84, From::Right, -4, 132, 23},
+    {IDC_INFO_COPY_FILES, From::Left, 4, From::Right, -4, 129, 32},
+    {IDCANCEL, From::Right, -84, From::Right, -4, 167, 23},
 };
 
 // A text field and the record's buffer it fills, with the buffer's size.
@@ -56,12 +61,14 @@ void Fill(HWND dlg, ThemeInfo& info) {
         SetDlgItemTextW(dlg, f.id, f.text);
     }
     CheckDlgButton(dlg, IDC_INFO_HIRES, info.hiRes ? BST_CHECKED : BST_UNCHECKED);
+    CheckDlgButton(dlg, IDC_INFO_COPY_FILES, info.copyFiles ? BST_CHECKED : BST_UNCHECKED);
 }
 
 void Take(HWND dlg, ThemeInfo& info) {
     for (const Field& f : FieldsOf(info).rows)
         GetDlgItemTextW(dlg, f.id, f.text, f.chars);
     info.hiRes = IsDlgButtonChecked(dlg, IDC_INFO_HIRES) == BST_CHECKED;
+    info.copyFiles = IsDlgButtonChecked(dlg, IDC_INFO_COPY_FILES) == BST_CHECKED;
 }
 
 void BrowseSkin(HWND dlg) {

@@ -14,6 +14,8 @@ struct ThemeInfo {
     wchar_t email[100] = {};
     wchar_t path[260] = {};
     bool hiRes = false;
+    // Export: copy the pictures and sounds the theme names into its folder. Off by default.
+    bool copyFiles = false;
 };
 
 // Shows the dialog, filled from `info`. On OK `info` holds what was entered and the result is a

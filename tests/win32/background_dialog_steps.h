@@ -45,8 +45,23 @@ inline RECT ItemRect(HWND dlg, int id) {
     return r;
 }
 
+// The height the control's text takes when wrapped at word breaks into `width` pixels, in the
+// control's own font.
+inline int WrappedTextHeight(HWND control, int width) {
+    wchar_t text[512] = {};
+    GetWindowTextW(control, text, 512);
+    HDC dc = GetDC(control);
+    HGDIOBJ old = SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    RECT r = {0, 0, width, 0};
+    DrawTextW(dc, text, -1, &r, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    SelectObject(dc, old);
+    ReleaseDC(control, dc);
+    return r.bottom;
+}
+
 // Expects the text of every visible label, button and check box to fit its control's width
-// (check boxes leave room for their box, push buttons for their edges).
+// (check boxes leave room for their box, push buttons for their edges); text that may wrap must
+// fit the control's height once wrapped.
 inline void ExpectTextsFit(HWND dlg) {
     for (HWND c = GetWindow(dlg, GW_CHILD); c; c = GetWindow(c, GW_HWNDNEXT)) {
         if (!IsWindowVisible(c))
@@ -67,7 +82,12 @@ inline void ExpectTextsFit(HWND dlg) {
         } else {
             continue;
         }
-        EXPECT_LE(cv2::WindowTextWidth(c), room) << "text cut off in control " << GetDlgCtrlID(c);
+        if (style & BS_MULTILINE)
+            EXPECT_LE(WrappedTextHeight(c, room), r.bottom)
+                << "wrapped text cut off in control " << GetDlgCtrlID(c);
+        else
+            EXPECT_LE(cv2::WindowTextWidth(c), room)
+                << "text cut off in control " << GetDlgCtrlID(c);
     }
 }
 

@@ -9,3 +9,5 @@
 #include "strings/themes.h"
 #include "strings/editor.h"
 #include "strings/appearance.h"
+#include "strings/appearance_panel.h"
+#include "strings/appearance_controls.h"

@@ -1,6 +1,7 @@
 #include "app/theme_switch.h"
 
 #include "platform/file_access.h"
+#include "store/config_sections.h"
 #include "store/ini_document.h"
 #include "store/paths.h"
 
@@ -27,7 +28,7 @@ bool RunThemeSwitch(const std::wstring& exeFolder, const std::wstring& commandLi
     const std::wstring theme = ThemeSwitchPath(exeFolder, commandLine);
     if (!FileExists(theme))
         return false;
-    config.SetString(L"Settings", L"Theme File", theme.c_str());
+    config.SetString(config::kSettings, config::kThemeFile, theme.c_str());
     const bool written = config.Save();
     // The bar is told even if the write failed: it then simply reloads what it had.
     if (notifyBar)

@@ -47,13 +47,6 @@ enum class ParseState { Idle, SectionName, Comment, Key, Value };
 // Sections with at most this many keys are searched key by key rather than through an index.
 const size_t kDirectSearchKeys = 8;
 
-std::wstring Folded(const wchar_t* name) {
-    std::wstring folded;
-    for (; *name; ++name)
-        folded += FoldCase(*name);
-    return folded;
-}
-
 } // namespace
 
 wchar_t FoldCase(wchar_t c) {
@@ -301,7 +294,7 @@ bool IniDocument::GetBool(const wchar_t* section, const wchar_t* key, bool def) 
     const Entry* e = FindEntry(section, key);
     if (!e)
         return def;
-    return EqualsNoCase(e->value.c_str(), L"true") || EqualsNoCase(e->value.c_str(), L"yes");
+    return IsTrueWord(e->value.c_str());
 }
 
 void IniDocument::SetString(const wchar_t* section, const wchar_t* key, const wchar_t* value) {
@@ -394,6 +387,17 @@ void IniDocument::MakePathsRelative(const std::wstring& folder) {
                 e.value = e.value.substr(at + folder.size());
         }
     }
+}
+
+std::wstring Folded(const wchar_t* text) {
+    std::wstring folded;
+    for (; *text; ++text)
+        folded += FoldCase(*text);
+    return folded;
+}
+
+bool IsTrueWord(const wchar_t* text) {
+    return EqualsNoCase(text, L"true") || EqualsNoCase(text, L"yes");
 }
 
 } // namespace cv2

@@ -111,6 +111,10 @@ class IniDocument {
 bool EqualsNoCase(const wchar_t* a, const wchar_t* b);
 // The lower-case form of an ASCII or Latin-1 capital; any other character as it is.
 wchar_t FoldCase(wchar_t c);
+// The whole text folded with FoldCase.
+std::wstring Folded(const wchar_t* text);
+// How a stored boolean reads: true for "true" or "yes" in any case.
+bool IsTrueWord(const wchar_t* text);
 
 // The leading decimal number of a text, as the C runtime's wide-to-long conversion reads it:
 // leading blanks skipped, optional sign, digits; 0 when there are none. Saturates at 32 bits.

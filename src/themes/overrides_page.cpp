@@ -13,9 +13,9 @@
 namespace cv2 {
 namespace {
 
-// Layout in 96-dpi units.
+// Layout in 96-dpi units, from the page's top left.
 constexpr int kLeft = 3;
-constexpr int kTop = 30;
+constexpr int kTop = 10;
 constexpr int kBoxWidth = 234;
 constexpr int kBoxHeight = 20;
 constexpr int kBoxGap = 2;
@@ -81,18 +81,16 @@ ThemeOverridesPage::ThemeOverridesPage() : SettingsPage(IDS_THEME_OVERRIDES) {}
 
 void ThemeOverridesPage::Create(HWND host) {
     CreateChildControls(host, kControls, Count, m_controls);
-    RECT client = {};
-    GetClientRect(host, &client);
-    OnSize(client);
+    OnSize(Area());
     FillFontList(m_controls[FontList], ScreenFontFamilies());
 }
 
 void ThemeOverridesPage::OnSize(const RECT&) {
     if (!m_controls[Sounds])
         return;
-    const int left = ScaleX(kLeft);
+    const int left = Area().left + ScaleX(kLeft);
     const int width = ScaleX(kBoxWidth);
-    int y = Scale(kTop);
+    int y = Area().top + Scale(kTop);
     for (int i = Sounds; i <= Fonts; ++i) {
         // A text wider than its box wraps, and the controls below move clear of it.
         const int height = CheckBoxHeight(m_controls[i], width);
@@ -132,7 +130,7 @@ void ThemeOverridesPage::Load(IniDocument* doc) {
 }
 
 void ThemeOverridesPage::Save(IniDocument* target) {
-    if ((!target && !m_doc) || !m_controls[Sounds])
+    if ((!target && !Doc()) || !m_controls[Sounds])
         return;
     OverrideValues v;
     v.useSounds = Checked(m_controls[Sounds]);

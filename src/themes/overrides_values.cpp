@@ -1,11 +1,12 @@
 #include "themes/overrides_values.h"
 
+#include "store/config_sections.h"
 #include "store/paths.h"
 
 namespace cv2 {
 namespace {
 
-const wchar_t kSection[] = L"Overrides";
+const wchar_t* const kSection = config::kOverrides;
 
 } // namespace
 

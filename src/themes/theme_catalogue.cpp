@@ -1,6 +1,7 @@
 #include "themes/theme_catalogue.h"
 
 #include "platform/file_access.h"
+#include "store/config_sections.h"
 #include "store/paths.h"
 
 namespace cv2 {
@@ -45,7 +46,7 @@ void ScanSubfolders(const std::wstring& folder, std::vector<ThemeEntry>& found) 
 std::vector<ThemeEntry> ScanThemes(const std::wstring& exeFolder, const IniDocument& config) {
     std::vector<ThemeEntry> found;
     ScanSubfolders(FolderWithSlash(exeFolder) + L"Themes\\", found);
-    for (const IniDocument::EntryRef& e : config.GetSectionEntries(L"Theme Directories")) {
+    for (const IniDocument::EntryRef& e : config.GetSectionEntries(config::kThemeDirectories)) {
         const std::wstring folder = CutToBuffer(e.second, kMaxPath);
         if (!folder.empty())
             ScanSubfolders(folder, found);

@@ -10,8 +10,12 @@ namespace {
 
 int EdgeX(From from, int offset, int clientWidth) {
     switch (from) {
+    case From::Third:
+        return clientWidth / 3 + ScaleX(offset);
     case From::Middle:
         return clientWidth / 2 + ScaleX(offset);
+    case From::TwoThirds:
+        return clientWidth * 2 / 3 + ScaleX(offset);
     case From::Right:
         return clientWidth + ScaleX(offset);
     case From::Left:
@@ -44,11 +48,25 @@ RECT PlaceRect(const ControlPlace& place, int clientWidth, int clientHeight) {
 void PlaceControls(HWND dialog, const ControlPlace* places, size_t count) {
     RECT client;
     GetClientRect(dialog, &client);
-    for (size_t i = 0; i < count; ++i) {
-        const RECT r = PlaceRect(places[i], client.right, client.bottom);
-        if (HWND control = GetDlgItem(dialog, places[i].id))
-            MoveWindow(control, r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
-    }
+    PlaceControls(dialog, client, places, count);
+}
+
+RECT PlaceRectIn(const ControlPlace& place, const RECT& area) {
+    RECT r = PlaceRect(place, area.right - area.left, area.bottom - area.top);
+    OffsetRect(&r, area.left, area.top);
+    return r;
+}
+
+void PlaceWindow(HWND control, const ControlPlace& place, const RECT& area) {
+    if (!control)
+        return;
+    const RECT r = PlaceRectIn(place, area);
+    MoveWindow(control, r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
+}
+
+void PlaceControls(HWND host, const RECT& area, const ControlPlace* places, size_t count) {
+    for (size_t i = 0; i < count; ++i)
+        PlaceWindow(GetDlgItem(host, places[i].id), places[i], area);
 }
 
 void SetControlTexts(HWND dialog, const ControlText* texts, size_t count) {
@@ -65,7 +83,9 @@ void SetDialogFonts(HWND dialog, const int* boldIds, size_t boldCount) {
         SetControlFont(GetDlgItem(dialog, boldIds[i]), CaptionFont());
 }
 
-INT_PTR StaticColors(HDC dc) { return reinterpret_cast<INT_PTR>(DeviceStaticColors(dc)); }
+INT_PTR StaticColors(HDC dc) {
+    return reinterpret_cast<INT_PTR>(DeviceStaticColors(dc));
+}
 
 bool UseWideLayout() {
     return ChooseLayout(ScreenWidth(), ScreenHeight(), true) != DialogLayout::Portrait;

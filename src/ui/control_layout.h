@@ -13,7 +13,8 @@
 
 namespace cv2 {
 
-enum class From : unsigned char { Left, Middle, Right };
+// Thirds serve a row of three equal buttons.
+enum class From : unsigned char { Left, Third, Middle, TwoThirds, Right };
 enum class FromY : unsigned char { Top, Bottom };
 
 struct ControlPlace {
@@ -31,10 +32,26 @@ struct ControlPlace {
     bool stretchDown = false;
 };
 
+// A control that fills the width and the rest of the height from `top` down.
+constexpr ControlPlace FillingPlace(int id, int top) {
+    return {id, From::Left, 0, From::Right, 0, top, 0, FromY::Top, true};
+}
+
 // The place in client pixels for a client area `clientWidth` x `clientHeight` pixels.
 RECT PlaceRect(const ControlPlace& place, int clientWidth, int clientHeight = 0);
 // Moves every control of the table to its place.
 void PlaceControls(HWND dialog, const ControlPlace* places, size_t count);
+// The place in client pixels of a control inside a page's `area` (client pixels of the host):
+// tops, bottoms and edges are measured from the area, not the host's client.
+RECT PlaceRectIn(const ControlPlace& place, const RECT& area);
+// Moves one control to its place inside `area` (for controls whose id is not unique).
+void PlaceWindow(HWND control, const ControlPlace& place, const RECT& area);
+// The same for a page's controls, children of `host` with the places' ids.
+void PlaceControls(HWND host, const RECT& area, const ControlPlace* places, size_t count);
+template <size_t N>
+void PlaceControls(HWND host, const RECT& area, const ControlPlace (&places)[N]) {
+    PlaceControls(host, area, places, N);
+}
 
 struct ControlText {
     int id;

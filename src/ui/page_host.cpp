@@ -45,7 +45,16 @@ int DrawMenuMark(HDC dc, const RECT& strip) {
 
 } // namespace
 
-int HeaderHeight() { return Scale(20); }
+int HeaderHeight() {
+    return Scale(20);
+}
+
+RECT PageArea(int clientWidth, int clientHeight) {
+    // The strip's one-pixel bottom line falls on the area's first row, which pages leave empty;
+    // starting here keeps every place a whole number of units below the client's top.
+    const int top = HeaderHeight();
+    return {0, top, clientWidth, clientHeight > top ? clientHeight : top};
+}
 
 PageHost::~PageHost() {
     for (SettingsPage* page : m_pages)
@@ -54,7 +63,9 @@ PageHost::~PageHost() {
         DestroyMenu(m_pageMenu);
 }
 
-void PageHost::AddPage(SettingsPage* page) { m_pages.push_back(page); }
+void PageHost::AddPage(SettingsPage* page) {
+    m_pages.push_back(page);
+}
 
 SettingsPage* PageHost::Page(int index) const {
     return index >= 0 && index < PageCount() ? m_pages[static_cast<size_t>(index)] : nullptr;
@@ -63,10 +74,14 @@ SettingsPage* PageHost::Page(int index) const {
 void PageHost::BuildPages(HWND window, IniDocument* doc) {
     m_hwnd = window;
     m_pageMenu = CreatePopupMenu();
+    RECT client;
+    GetClientRect(window, &client);
+    const RECT area = PageArea(client.right, client.bottom);
     for (int i = 0; i < PageCount(); ++i) {
         SettingsPage* page = m_pages[static_cast<size_t>(i)];
         if (!page)
             continue;
+        GiveArea(*page, area);
         page->Create(window);
         page->Load(doc);
         AppendMenuW(m_pageMenu, MF_STRING, static_cast<UINT_PTR>(i + 1), page->GetName());
@@ -81,9 +96,9 @@ void PageHost::SelectPage(int index) {
         return;
     if (m_current) {
         m_current->OnDeactivate();
-        m_current->m_active = 0;
+        MarkActive(*m_current, false);
     }
-    next->m_active = 1;
+    MarkActive(*next, true);
     next->OnActivate();
     for (int i = 0; i < PageCount(); ++i) {
         if (SettingsPage* page = m_pages[static_cast<size_t>(i)])
@@ -184,9 +199,12 @@ void PageHost::DispatchNotify(WPARAM wParam, LPARAM lParam) {
 
 void PageHost::DispatchSize(int width, int height) {
     const RECT client = {0, 0, width, height};
+    const RECT area = PageArea(width, height);
     for (SettingsPage* page : m_pages) {
-        if (page)
-            page->OnSize(client);
+        if (!page)
+            continue;
+        GiveArea(*page, area);
+        page->OnSize(client);
     }
 }
 

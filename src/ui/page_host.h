@@ -50,6 +50,10 @@ class PageHost {
     SettingsPage* Current() const { return m_current; }
     HMENU Menu() const { return m_pageMenu; }
     HWND Window() const { return m_hwnd; }
+    // What a host tells a page about its turn; PageHost does it on SelectPage, and a host of a
+    // single page (tests) does it when it shows that page.
+    static void MarkActive(SettingsPage& page, bool active) { page.m_active = active ? 1 : 0; }
+    static void GiveArea(SettingsPage& page, const RECT& area) { page.m_area = area; }
 
   private:
     HWND m_hwnd = nullptr;
@@ -60,5 +64,7 @@ class PageHost {
 
 // Height of the header strip at the top of a host window, in pixels.
 int HeaderHeight();
+// The pages' part of a host's client area of that size: all of it below the header strip.
+RECT PageArea(int clientWidth, int clientHeight);
 
 } // namespace cv2

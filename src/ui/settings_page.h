@@ -1,6 +1,7 @@
 // Base of every settings page, in the main window and in the theme editor. The host owns the
-// pages, creates their controls as children of its window, binds each to a document, shows one
-// page at a time and forwards window messages. A page never talks to another page.
+// pages (it deletes them through the virtual destructor), creates their controls as children of
+// its window, binds each to a document, shows one page at a time and forwards window messages.
+// A page never talks to another page.
 #pragma once
 
 #include <windows.h>
@@ -44,13 +45,24 @@ class SettingsPage {
     SettingsPage(const SettingsPage&) = delete;
     SettingsPage& operator=(const SettingsPage&) = delete;
 
-    int m_active = 0;      // 1 while the page is its host's current page; set by the host only
-    std::wstring m_name;   // display name
-    IniDocument* m_doc = nullptr; // the document bound by Load; not owned
+    // What the host has told the page.
+    bool IsActive() const { return m_active != 0; }
+    IniDocument* Doc() const { return m_doc; }
+    // The page's part of the host's client area: everything below the header strip, in client
+    // pixels. Set by the host before Create and before every OnSize.
+    const RECT& Area() const { return m_area; }
 
   protected:
     // The document a Save call writes into.
     IniDocument& SaveTarget(IniDocument* target) { return target ? *target : *m_doc; }
+
+  private:
+    // Only the host changes what it has told the page (Load binds the document).
+    friend class PageHost;
+    int m_active = 0;             // 1 while the page is its host's current page
+    std::wstring m_name;          // display name
+    IniDocument* m_doc = nullptr; // the document bound by Load; not owned
+    RECT m_area = {};
 };
 
 // Shows or hides a set of child windows (the usual body of Show).

@@ -7,6 +7,7 @@
 #include "screen_capture.h"
 #include "store/scale.h"
 #include "store/screen.h"
+#include "ui/page_host.h"
 #include "ui/shared_fonts.h"
 
 namespace cv2test {
@@ -38,6 +39,9 @@ PageHostWindow::PageHostWindow(cv2::SettingsPage& page, cv2::IniDocument& doc) :
     m_hwnd = CreateWindowExW(0, kClass, L"page host", WS_POPUP, wa.left, wa.top, wa.right - wa.left,
                              wa.bottom - wa.top - cv2::Scale(kMenuBarHeight), nullptr, nullptr,
                              GetModuleHandleW(nullptr), this);
+    RECT client;
+    GetClientRect(m_hwnd, &client);
+    cv2::PageHost::GiveArea(m_page, cv2::PageArea(client.right, client.bottom));
     m_page.Create(m_hwnd);
     m_page.Load(&doc);
 }
@@ -49,7 +53,7 @@ PageHostWindow::~PageHostWindow() {
 
 void PageHostWindow::ShowPage() {
     ShowWindow(m_hwnd, SW_SHOW);
-    m_page.m_active = 1;
+    cv2::PageHost::MarkActive(m_page, true);
     m_page.OnActivate();
     m_page.Show(true);
     InvalidateRect(m_hwnd, nullptr, TRUE);
@@ -100,6 +104,7 @@ LRESULT CALLBACK PageHostWindow::Proc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM
     case WM_SIZE:
         if (host) {
             RECT r = {0, 0, LOWORD(lParam), HIWORD(lParam)};
+            cv2::PageHost::GiveArea(host->m_page, cv2::PageArea(r.right, r.bottom));
             host->m_page.OnSize(r);
         }
         return 0;

@@ -16,9 +16,8 @@ std::vector<std::string> g_log;
 class RecordingPage : public cv2::SettingsPage {
   public:
     explicit RecordingPage(const char* tag, bool takesCommand = false)
-        : SettingsPage(L"Recording"), m_tag(tag), m_takesCommand(takesCommand) {
-        m_name = std::wstring(tag, tag + std::strlen(tag));
-    }
+        : SettingsPage(std::wstring(tag, tag + std::strlen(tag)).c_str()), m_tag(tag),
+          m_takesCommand(takesCommand) {}
     ~RecordingPage() override { Log("Deleted"); }
     void Create(HWND host) override {
         Log("Create");
@@ -27,14 +26,14 @@ class RecordingPage : public cv2::SettingsPage {
     void Show(bool visible) override { Log(visible ? "Show1" : "Show0"); }
     void Save(cv2::IniDocument* target) override {
         Log(target ? "SaveInto" : "Save");
-        SaveTarget(target).SetString(L"Pages", m_name.c_str(), L"saved");
+        SaveTarget(target).SetString(L"Pages", GetName(), L"saved");
     }
     void Load(cv2::IniDocument* doc) override {
         SettingsPage::Load(doc);
         Log("Load");
     }
-    void OnActivate() override { Log("Activate" + std::to_string(m_active)); }
-    void OnDeactivate() override { Log("Deactivate" + std::to_string(m_active)); }
+    void OnActivate() override { Log("Activate" + std::to_string(IsActive())); }
+    void OnDeactivate() override { Log("Deactivate" + std::to_string(IsActive())); }
     void OnDestroy() override { Log("Destroy"); }
     bool OnCommand(WPARAM wParam, LPARAM) override {
         Log("Command" + std::to_string(LOWORD(wParam)));
@@ -81,7 +80,7 @@ TEST_F(PageHostTest, BuildCreatesAndLoadsEveryPageInOrderThenShowsTheFirst) {
     ASSERT_GE(log.size(), expected.size());
     EXPECT_EQ(Log(log.begin(), log.begin() + 6), expected);
     EXPECT_EQ(m_app->Host().Current(), m_app->Host().Page(0));
-    EXPECT_EQ(m_app->Host().Page(0)->m_active, 1);
+    EXPECT_TRUE(m_app->Host().Page(0)->IsActive());
 }
 
 TEST_F(PageHostTest, PageMenuHasOneItemPerPageWithIdIndexPlusOne) {
@@ -100,8 +99,8 @@ TEST_F(PageHostTest, SwitchDeactivatesTheOldPageBeforeActivatingTheNew) {
     Take();
     m_app->SelectPage(2);
     EXPECT_EQ(Take(), (Log{"A:Deactivate1", "C:Activate1", "A:Show0", "B:Show0", "C:Show1"}));
-    EXPECT_EQ(m_app->Host().Page(0)->m_active, 0);
-    EXPECT_EQ(m_app->Host().Page(2)->m_active, 1);
+    EXPECT_FALSE(m_app->Host().Page(0)->IsActive());
+    EXPECT_TRUE(m_app->Host().Page(2)->IsActive());
 }
 
 TEST_F(PageHostTest, SelectingPageMovesTheRadioMark) {
@@ -198,7 +197,8 @@ class HeaderTapTest : public PageHostTest {
         PageHostTest::TearDown();
     }
     // Taps the window at (x, y); a menu that opens is closed again (or used by `inMenu`).
-    void Tap(int x, int y, void (*inMenu)() = [] { EndMenu(); }) {
+    void Tap(
+        int x, int y, void (*inMenu)() = [] { EndMenu(); }) {
         RunInsideModalLoop(inMenu);
         SendMessageW(Main(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
         RunInsideModalLoop(nullptr);
@@ -252,12 +252,15 @@ TEST_F(PageHostTest, ApplyKeepsTheEditorOpen) {
 
 TEST_F(PageHostTest, EditBoxesAskingTheButtonColourGetTheWindowBrushWhenEnabled) {
     MakeThree();
-    HWND edit = CreateWindowExW(0, L"EDIT", L"", WS_CHILD, 0, 0, 10, 10, Main(), nullptr, nullptr, nullptr);
-    HWND label = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, Main(), nullptr, nullptr, nullptr);
+    HWND edit =
+        CreateWindowExW(0, L"EDIT", L"", WS_CHILD, 0, 0, 10, 10, Main(), nullptr, nullptr, nullptr);
+    HWND label = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, Main(), nullptr,
+                                 nullptr, nullptr);
     HDC dc = GetDC(Main());
     const LRESULT brush = reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
     auto ask = [&](HWND control) {
-        return SendMessageW(Main(), 0x135, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(control));
+        return SendMessageW(Main(), 0x135, reinterpret_cast<WPARAM>(dc),
+                            reinterpret_cast<LPARAM>(control));
     };
     EXPECT_EQ(ask(edit), brush);
     EnableWindow(edit, FALSE);

@@ -6,6 +6,7 @@
 #include "platform/shell.h"
 #include "store/scale.h"
 #include "store/screen.h"
+#include "ui/page_host.h"
 #include "ui/shared_fonts.h"
 
 namespace cv2test {
@@ -69,14 +70,19 @@ LRESULT CALLBACK PageHost::Proc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lPara
     }
     if (host && msg == WM_SIZE) {
         const RECT client = {0, 0, LOWORD(lParam), HIWORD(lParam)};
-        for (cv2::SettingsPage* page : host->m_pages)
+        for (cv2::SettingsPage* page : host->m_pages) {
+            cv2::PageHost::GiveArea(*page, cv2::PageArea(client.right, client.bottom));
             page->OnSize(client);
+        }
     }
     return DefWindowProcW(hwnd, msg, wParam, lParam);
 }
 
 void PageHost::Add(cv2::SettingsPage& page, bool show) {
     m_pages.push_back(&page);
+    RECT client;
+    GetClientRect(m_hwnd, &client);
+    cv2::PageHost::GiveArea(page, cv2::PageArea(client.right, client.bottom));
     page.Create(m_hwnd);
     page.Show(show);
 }

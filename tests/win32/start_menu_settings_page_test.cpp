@@ -71,8 +71,10 @@ TEST_F(StartMenuSettingsPageTest, SaveIntoAnotherDocumentLeavesTheBoundOneAlone)
 TEST_F(StartMenuSettingsPageTest, ListFollowsTheHostSize) {
     StartMenuSettingsPage page;
     PageHostWindow host(page, m_doc);
-    RECT small = {0, 0, 200, 150};
-    page.OnSize(small);
+    SetWindowPos(host.hwnd(), nullptr, 0, 0, 200, 150, SWP_NOMOVE | SWP_NOZORDER);
+    RECT client;
+    GetClientRect(host.hwnd(), &client);
+    ASSERT_EQ(client.right, 200) << "the host has no frame";
     RECT list;
     GetWindowRect(page.List(), &list);
     EXPECT_EQ(list.right - list.left, 200);

@@ -62,7 +62,7 @@ class PanelPage : public cv2::SettingsPage {
         second = doc->GetString(L"Panel", L"Landscape", L"");
     }
     void Save(cv2::IniDocument* target) override {
-        if (m_active)
+        if (IsActive())
             OnDeactivate();
         SaveTarget(target).SetString(L"Panel", L"Portrait", first.c_str());
         SaveTarget(target).SetString(L"Panel", L"Landscape", second.c_str());
@@ -79,7 +79,7 @@ class PanelPage : public cv2::SettingsPage {
     }
     bool OnCommand(WPARAM wParam, LPARAM) override {
         cv2::ImagePanel* panel = cv2::PanelOf(m_host);
-        if (!m_active || !panel || !panel->IsSettingsClick(wParam))
+        if (!IsActive() || !panel || !panel->IsSettingsClick(wParam))
             return false;
         ++settingsClicks;
         return true;

@@ -27,14 +27,14 @@ const ChildControl kControls[ButtonAssignmentsPage::Count] = {
 // Laid out for a 240-pixel-wide page and stretched with wider ones; in the order of the Control
 // enumeration. A combo box's height includes its drop-down list.
 const ControlPlace kPlaces[ButtonAssignmentsPage::Count] = {
-    {IDC_ASSIGN_BUTTON, From::Left, 3, From::Right, -6, 33, 160},
-    {IDC_ASSIGN_VISIBLE, From::Left, 3, From::Right, -6, 59, 16},
-    {IDC_ASSIGN_TAP_LABEL, From::Left, 3, From::Right, -40, 80, 15},
-    {IDC_ASSIGN_TAP, From::Left, 3, From::Right, -40, 96, 160},
-    {IDC_ASSIGN_TAP_BROWSE, From::Right, -36, From::Right, -6, 95, 22},
-    {IDC_ASSIGN_HOLD_LABEL, From::Left, 3, From::Right, -40, 121, 15},
-    {IDC_ASSIGN_HOLD, From::Left, 3, From::Right, -40, 137, 160},
-    {IDC_ASSIGN_HOLD_BROWSE, From::Right, -36, From::Right, -6, 136, 22},
+    {IDC_ASSIGN_BUTTON, From::Left, 3, From::Right, -6, 13, 160},
+    {IDC_ASSIGN_VISIBLE, From::Left, 3, From::Right, -6, 39, 16},
+    {IDC_ASSIGN_TAP_LABEL, From::Left, 3, From::Right, -40, 60, 15},
+    {IDC_ASSIGN_TAP, From::Left, 3, From::Right, -40, 76, 160},
+    {IDC_ASSIGN_TAP_BROWSE, From::Right, -36, From::Right, -6, 75, 22},
+    {IDC_ASSIGN_HOLD_LABEL, From::Left, 3, From::Right, -40, 101, 15},
+    {IDC_ASSIGN_HOLD, From::Left, 3, From::Right, -40, 117, 160},
+    {IDC_ASSIGN_HOLD_BROWSE, From::Right, -36, From::Right, -6, 116, 22},
 };
 
 std::wstring ComboRowText(HWND combo, int row) {
@@ -71,9 +71,7 @@ void ButtonAssignmentsPage::Create(HWND host) {
     SetWindowTextW(m_controls[TapBrowse], L"...");
     SetWindowTextW(m_controls[HoldBrowse], L"...");
     FillCombos();
-    RECT client;
-    GetClientRect(host, &client);
-    OnSize(client);
+    OnSize(Area());
 }
 
 void ButtonAssignmentsPage::FillCombos() {
@@ -94,13 +92,9 @@ void ButtonAssignmentsPage::Show(bool visible) {
     ShowWindows(m_controls, Count, visible);
 }
 
-void ButtonAssignmentsPage::OnSize(const RECT& client) {
-    if (!m_controls[Selector])
-        return;
-    for (int i = 0; i < Count; ++i) {
-        const RECT r = PlaceRect(kPlaces[i], client.right - client.left);
-        MoveWindow(m_controls[i], r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
-    }
+void ButtonAssignmentsPage::OnSize(const RECT&) {
+    if (m_controls[Selector])
+        PlaceControls(m_host, Area(), kPlaces);
 }
 
 void ButtonAssignmentsPage::Load(IniDocument* doc) {
@@ -225,7 +219,7 @@ void ButtonAssignmentsPage::OnDeactivate() {
 }
 
 void ButtonAssignmentsPage::Save(IniDocument* target) {
-    if (!target && !m_doc)
+    if (!target && !Doc())
         return;
     CommitCurrent();
     WriteAssignments(SaveTarget(target), m_values, m_state.visible);

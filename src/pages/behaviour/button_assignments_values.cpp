@@ -1,5 +1,7 @@
 #include "pages/behaviour/button_assignments_values.h"
 
+#include "store/config_sections.h"
+
 #include <cwchar>
 
 namespace cv2 {
@@ -40,9 +42,9 @@ const StringId kActionLabels[kBuiltInActions] = {
     IDS_ACTION_SCREEN_TOGGLE,
 };
 
-constexpr wchar_t kActions[] = L"Actions";
-constexpr wchar_t kGeneral[] = L"General Settings";
-constexpr wchar_t kTopbar[] = L"Topbar Settings";
+constexpr const wchar_t* kActions = config::kActions;
+constexpr const wchar_t* kGeneral = config::kGeneralSettings;
+constexpr const wchar_t* kTopbar = config::kTopbarSettings;
 
 // Where a button's visibility comes from.
 enum class Shown { UseStartMenu, ShowTitle, ShowNotifications, InOrder, InOrderWithPhone };

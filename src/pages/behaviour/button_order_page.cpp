@@ -14,8 +14,8 @@ namespace {
 
 // Laid out for a 240-pixel-wide page: the list beside its up-down control, both down to near
 // the page's bottom.
-const ControlPlace kListPlace = {IDC_ORDER_LIST, From::Left, 3, From::Right, -19, 23, 163};
-const ControlPlace kMoverPlace = {IDC_ORDER_MOVE, From::Right, -17, From::Right, -4, 23, 163};
+const ControlPlace kListPlace = {IDC_ORDER_LIST, From::Left, 3, From::Right, -19, 3, 163};
+const ControlPlace kMoverPlace = {IDC_ORDER_MOVE, From::Right, -17, From::Right, -4, 3, 163};
 constexpr int kBottomMargin = 4;
 
 // The mover never runs into a limit: its range is wide, and its position is put back after
@@ -52,9 +52,7 @@ void ButtonOrderPage::Create(HWND host) {
     m_mover = MakeChild(host, UPDOWN_CLASSW, UDS_ARROWKEYS, IDC_ORDER_MOVE);
     SendMessageW(m_mover, UDM_SETRANGE32, kMoverLow, kMoverHigh);
     SendMessageW(m_mover, UDM_SETPOS32, 0, kMoverRest);
-    RECT client;
-    GetClientRect(host, &client);
-    OnSize(client);
+    OnSize(Area());
 }
 
 void ButtonOrderPage::Show(bool visible) {
@@ -62,15 +60,15 @@ void ButtonOrderPage::Show(bool visible) {
     ShowWindows(controls, 2, visible);
 }
 
-void ButtonOrderPage::OnSize(const RECT& client) {
+void ButtonOrderPage::OnSize(const RECT&) {
     if (!m_list)
         return;
-    const int width = client.right - client.left;
-    RECT list = PlaceRect(kListPlace, width);
-    RECT mover = PlaceRect(kMoverPlace, width);
+    const RECT& area = Area();
+    RECT list = PlaceRectIn(kListPlace, area);
+    RECT mover = PlaceRectIn(kMoverPlace, area);
     // Taller screens give the list their extra room.
     list.bottom = mover.bottom =
-        std::max(list.bottom, static_cast<LONG>(client.bottom - Scale(kBottomMargin)));
+        std::max(list.bottom, static_cast<LONG>(area.bottom - Scale(kBottomMargin)));
     MoveWindow(m_list, list.left, list.top, list.right - list.left, list.bottom - list.top, TRUE);
     MoveWindow(m_mover, mover.left, mover.top, mover.right - mover.left, mover.bottom - mover.top,
                TRUE);
@@ -141,9 +139,9 @@ LRESULT ButtonOrderPage::OnNotify(WPARAM, LPARAM lParam) {
 // A page never shown has an empty list: it is filled first, so the saved order still follows
 // the visibility flags.
 void ButtonOrderPage::Save(IniDocument* target) {
-    if (!target && !m_doc)
+    if (!target && !Doc())
         return;
-    if (!m_active)
+    if (!IsActive())
         OnActivate();
     OnDeactivate();
     WriteOrderValue(SaveTarget(target), JoinOrder(m_order, m_items));

@@ -1,11 +1,12 @@
 #include "pages/behaviour/button_order_values.h"
 
+#include "store/config_sections.h"
 #include "store/strings.h"
 
 namespace cv2 {
 namespace {
 
-constexpr wchar_t kSection[] = L"Topbar Settings";
+constexpr const wchar_t* kSection = config::kTopbarSettings;
 constexpr wchar_t kKey[] = L"Order";
 
 struct BuiltInItem {

@@ -5,14 +5,15 @@
 #include <algorithm>
 
 #include "store/scale.h"
+#include "ui/control_layout.h"
 #include "ui/shared_fonts.h"
 #include "ui/text_extent.h"
 
 namespace cv2 {
 namespace {
 
-// The list fills the page below the host's header strip.
-constexpr int kListTop = 23;
+// The list fills the page, a little below its top.
+constexpr int kListTop = 3;
 
 int WidestLabel(HWND list, const CheckTable& table) {
     int widest = 0;
@@ -52,9 +53,7 @@ void CheckListPage::Create(HWND host) {
         return;
     SendMessageW(m_list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
     SetControlFont(m_list, TextFont());
-    RECT client = {};
-    GetClientRect(host, &client);
-    OnSize(client);
+    OnSize(Area());
 
     LVCOLUMNW column = {};
     column.mask = LVCF_WIDTH;
@@ -83,13 +82,11 @@ void CheckListPage::Show(bool visible) {
     ShowWindows(&m_list, 1, visible);
 }
 
-void CheckListPage::OnSize(const RECT& client) {
+void CheckListPage::OnSize(const RECT&) {
     if (!m_list)
         return;
-    const int top = Scale(kListTop);
-    SetWindowPos(m_list, nullptr, 0, top, client.right - client.left,
-                 std::max(0, static_cast<int>(client.bottom - client.top) - top),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    const ControlPlace place = FillingPlace(m_listId, kListTop);
+    PlaceControls(GetParent(m_list), Area(), &place, 1);
     if (SendMessageW(m_list, LVM_GETITEMCOUNT, 0, 0) > 0)
         FitColumn();
 }
@@ -111,7 +108,7 @@ std::vector<bool> CheckListPage::CheckStates() const {
 }
 
 void CheckListPage::Save(IniDocument* target) {
-    if ((!target && !m_doc) || !m_list)
+    if ((!target && !Doc()) || !m_list)
         return;
     WriteCheckRows(m_table, CheckStates(), SaveTarget(target), m_outside.get());
 }

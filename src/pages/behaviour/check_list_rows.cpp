@@ -1,11 +1,13 @@
 #include "pages/behaviour/check_list_rows.h"
 
+#include "store/config_sections.h"
+
 namespace cv2 {
 namespace {
 
-const wchar_t kTopBar[] = L"TopBar Settings";
-const wchar_t kGeneral[] = L"General Settings";
-const wchar_t kStartMenu[] = L"Start Menu Settings";
+const wchar_t* const kTopBar = config::kTopBarSettings;
+const wchar_t* const kGeneral = config::kGeneralSettings;
+const wchar_t* const kStartMenu = config::kStartMenuSettings;
 
 constexpr RowStore kIni = RowStore::Ini;
 

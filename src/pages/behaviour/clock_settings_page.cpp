@@ -25,13 +25,13 @@ const ChildControl kControls[ClockSettingsPage::Count] = {
     {L"STATIC", SS_LEFT, 0, IDS_CLOCK_NOTE, IDC_CLOCK_NOTE},
 };
 
-// Layout in 96-dpi units: one column under the header strip.
+// Layout in 96-dpi units from the page's top: one column, the labels as wide as their texts.
 constexpr int kMargin = 6;
-constexpr int kStyleTop = 30;
-constexpr int kTimeTop = 58;
-constexpr int kDateTop = 84;
-constexpr int kChecksTop = 110;
-constexpr int kNoteTop = 134;
+constexpr int kStyleTop = 10;
+constexpr int kTimeTop = 38;
+constexpr int kDateTop = 64;
+constexpr int kChecksTop = 90;
+constexpr int kNoteTop = 114;
 constexpr int kRowHeight = 20;
 constexpr int kDropHeight = 80;
 constexpr int kNoteLines = 3;
@@ -55,16 +55,16 @@ void ClockSettingsPage::Create(HWND host) {
                  reinterpret_cast<LPARAM>(Localized(IDS_CLOCK_SMALL)));
     SendMessageW(m_controls[Time], EM_LIMITTEXT, kPictureChars - 1, 0);
     SendMessageW(m_controls[Date], EM_LIMITTEXT, kPictureChars - 1, 0);
-    RECT client = {};
-    GetClientRect(host, &client);
-    OnSize(client);
+    OnSize(Area());
 }
 
-void ClockSettingsPage::OnSize(const RECT& client) {
+void ClockSettingsPage::OnSize(const RECT&) {
     if (!m_controls[Style])
         return;
-    const int left = ScaleX(kMargin);
-    const int width = (client.right - client.left) - 2 * left;
+    const RECT& area = Area();
+    const int left = area.left + ScaleX(kMargin);
+    const int width = (area.right - area.left) - 2 * ScaleX(kMargin);
+    const auto Top = [&area](int units) { return static_cast<int>(area.top) + Scale(units); };
     const int row = Scale(kRowHeight);
     const int labelWidth =
         std::max(WindowTextWidth(m_controls[TimeLabel]), WindowTextWidth(m_controls[DateLabel])) +
@@ -72,14 +72,14 @@ void ClockSettingsPage::OnSize(const RECT& client) {
     const int editLeft = left + labelWidth;
     const int labelDrop = Scale(3); // labels sit on the edit boxes' text line
 
-    Place(m_controls[Style], left, Scale(kStyleTop), width, row + Scale(kDropHeight));
-    Place(m_controls[TimeLabel], left, Scale(kTimeTop) + labelDrop, labelWidth, row);
-    Place(m_controls[Time], editLeft, Scale(kTimeTop), width - labelWidth, row);
-    Place(m_controls[DateLabel], left, Scale(kDateTop) + labelDrop, labelWidth, row);
-    Place(m_controls[Date], editLeft, Scale(kDateTop), width - labelWidth, row);
-    Place(m_controls[ShowTime], left, Scale(kChecksTop), width / 2, row);
-    Place(m_controls[ShowDate], left + width / 2, Scale(kChecksTop), width - width / 2, row);
-    Place(m_controls[Note], left, Scale(kNoteTop), width,
+    Place(m_controls[Style], left, Top(kStyleTop), width, row + Scale(kDropHeight));
+    Place(m_controls[TimeLabel], left, Top(kTimeTop) + labelDrop, labelWidth, row);
+    Place(m_controls[Time], editLeft, Top(kTimeTop), width - labelWidth, row);
+    Place(m_controls[DateLabel], left, Top(kDateTop) + labelDrop, labelWidth, row);
+    Place(m_controls[Date], editLeft, Top(kDateTop), width - labelWidth, row);
+    Place(m_controls[ShowTime], left, Top(kChecksTop), width / 2, row);
+    Place(m_controls[ShowDate], left + width / 2, Top(kChecksTop), width - width / 2, row);
+    Place(m_controls[Note], left, Top(kNoteTop), width,
           kNoteLines * LineHeight(m_controls[Note]) + Scale(2));
 }
 
@@ -123,7 +123,7 @@ void ClockSettingsPage::Load(IniDocument* doc) {
 }
 
 void ClockSettingsPage::Save(IniDocument* target) {
-    if ((!target && !m_doc) || !m_controls[Style])
+    if ((!target && !Doc()) || !m_controls[Style])
         return;
     ClockValues v;
     v.normalClock = StandardClock();

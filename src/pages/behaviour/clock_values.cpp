@@ -1,11 +1,12 @@
 #include "pages/behaviour/clock_values.h"
 
+#include "store/config_sections.h"
 #include "store/paths.h"
 
 namespace cv2 {
 namespace {
 
-const wchar_t kSection[] = L"General Settings";
+const wchar_t* const kSection = config::kGeneralSettings;
 
 std::wstring ReadPicture(const IniDocument& doc, const wchar_t* key, const std::wstring& def) {
     const std::wstring def256 = CutToBuffer(def, kPictureChars);

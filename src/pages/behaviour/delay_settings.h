@@ -3,18 +3,19 @@
 
 #include <string>
 
+#include "store/config_sections.h"
 #include "store/strings.h"
 
 namespace cv2 {
 
 struct DelaySetting {
     StringId caption;
-    const wchar_t* key;          // in section "General Settings"
+    const wchar_t* key;          // in kDelaySection
     const wchar_t* defaultValue; // when the key is missing
     bool atLeastOne;             // values below 1 are stored as the default instead
 };
 
-constexpr const wchar_t* kDelaySection = L"General Settings";
+constexpr const wchar_t* kDelaySection = config::kGeneralSettings;
 constexpr int kDelaySettingCount = 4;
 extern const DelaySetting kDelaySettings[kDelaySettingCount];
 

@@ -1,6 +1,7 @@
 #include "pages/behaviour/delays_page.h"
 
 #include "store/scale.h"
+#include "ui/control_layout.h"
 #include "ui/shared_fonts.h"
 
 namespace cv2 {
@@ -8,14 +9,25 @@ namespace {
 
 const int kValueChars = 256;
 
-// Rows of the page in 96-dpi units: the caption's top; the box sits 16 below it and the unit
-// label 19 below it, every row 39 apart.
-int CaptionTop(int row) { return 29 + 39 * row; }
+enum Column { Caption, Box, Unit, kColumns };
 
-HWND MakeChild(HWND host, const wchar_t* cls, const wchar_t* text, DWORD style, int x, int y, int w,
-               int h, HFONT font) {
-    HWND child = CreateWindowExW(0, cls, text, WS_CHILD | style, ScaleX(x), Scale(y), ScaleX(w),
-                                 Scale(h), host, nullptr, GetModuleHandleW(nullptr), nullptr);
+// One row per setting, 39 units apart: the caption, the box 16 below it and the unit label 19
+// below it, beside the box.
+ControlPlace PlaceOf(int row, int column) {
+    const int top = 9 + 39 * row;
+    switch (column) {
+    case Caption:
+        return {0, From::Left, 3, From::Left, 237, top, 13};
+    case Box:
+        return {0, From::Left, 3, From::Left, 43, top + 16, 20};
+    default:
+        return {0, From::Left, 46, From::Left, 196, top + 19, 13};
+    }
+}
+
+HWND MakeChild(HWND host, const wchar_t* cls, const wchar_t* text, DWORD style, HFONT font) {
+    HWND child = CreateWindowExW(0, cls, text, WS_CHILD | style, 0, 0, 0, 0, host, nullptr,
+                                 GetModuleHandleW(nullptr), nullptr);
     SetControlFont(child, font);
     return child;
 }
@@ -35,15 +47,19 @@ DelaysPage::~DelaysPage() {
 
 void DelaysPage::Create(HWND host) {
     for (int i = 0; i < kDelaySettingCount; ++i) {
-        const int top = CaptionTop(i);
-        m_controls[i][0] = MakeChild(host, L"STATIC", Localized(kDelaySettings[i].caption), 0, 3,
-                                     top, 234, 13, CaptionFont());
-        m_controls[i][1] = MakeChild(host, L"EDIT", L"",
-                                     WS_BORDER | WS_TABSTOP | ES_NUMBER | ES_AUTOHSCROLL, 3,
-                                     top + 16, 40, 20, TextFont());
-        m_controls[i][2] = MakeChild(host, L"STATIC", Localized(IDS_SECONDS), 0, 46, top + 19,
-                                     150, 13, TextFont());
+        m_controls[i][Caption] =
+            MakeChild(host, L"STATIC", Localized(kDelaySettings[i].caption), 0, CaptionFont());
+        m_controls[i][Box] = MakeChild(
+            host, L"EDIT", L"", WS_BORDER | WS_TABSTOP | ES_NUMBER | ES_AUTOHSCROLL, TextFont());
+        m_controls[i][Unit] = MakeChild(host, L"STATIC", Localized(IDS_SECONDS), 0, TextFont());
     }
+    OnSize(Area());
+}
+
+void DelaysPage::OnSize(const RECT&) {
+    for (int i = 0; i < kDelaySettingCount; ++i)
+        for (int column = 0; column < kColumns; ++column)
+            PlaceWindow(m_controls[i][column], PlaceOf(i, column), Area());
 }
 
 void DelaysPage::Show(bool visible) {
@@ -54,7 +70,8 @@ void DelaysPage::Load(IniDocument* doc) {
     SettingsPage::Load(doc);
     for (int i = 0; i < kDelaySettingCount; ++i) {
         const DelaySetting& s = kDelaySettings[i];
-        SetWindowTextW(Edit(i), doc->GetString(kDelaySection, s.key, s.defaultValue, kValueChars).c_str());
+        SetWindowTextW(Edit(i),
+                       doc->GetString(kDelaySection, s.key, s.defaultValue, kValueChars).c_str());
     }
 }
 

@@ -15,6 +15,7 @@ class DelaysPage : public SettingsPage {
     void Show(bool visible) override;
     void Save(IniDocument* target) override;
     void Load(IniDocument* doc) override;
+    void OnSize(const RECT& client) override;
 
     // The number box of setting `index` (table order), for tests and layout.
     HWND Edit(int index) const { return m_controls[index][1]; }

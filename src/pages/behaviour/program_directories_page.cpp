@@ -31,17 +31,17 @@ const ProgramDirectoriesPage::Control kBold[] = {
     ProgramDirectoriesPage::PathLabel, ProgramDirectoriesPage::Browse,
     ProgramDirectoriesPage::ListLabel, ProgramDirectoriesPage::Add, ProgramDirectoriesPage::Delete};
 
-// Below the header strip: the start menu path with its browse button, then the caption of the
-// theme folders; in the order of the Control enumeration. The list and its two buttons take the
-// rest, down to the bottom.
-const ControlPlace kTopPlaces[] = {
-    {IDC_PROGRAM_START_MENU_LABEL, From::Left, 4, From::Right, -4, 28, 16},
-    {IDC_PROGRAM_START_MENU_PATH, From::Left, 4, From::Right, -34, 45, 21},
-    {IDC_PROGRAM_START_MENU_BROWSE, From::Right, -31, From::Right, -4, 45, 21},
-    {IDC_PROGRAM_THEMES_LABEL, From::Left, 4, From::Right, -4, 74, 16},
+// The start menu path with its browse button, then the theme folders with their caption; the
+// list takes the room down to the two buttons along the bottom.
+const ControlPlace kPlaces[] = {
+    {IDC_PROGRAM_START_MENU_LABEL, From::Left, 4, From::Right, -4, 8, 16},
+    {IDC_PROGRAM_START_MENU_PATH, From::Left, 4, From::Right, -34, 25, 21},
+    {IDC_PROGRAM_START_MENU_BROWSE, From::Right, -31, From::Right, -4, 25, 21},
+    {IDC_PROGRAM_THEMES_LABEL, From::Left, 4, From::Right, -4, 54, 16},
+    {IDC_PROGRAM_THEMES_LIST, From::Left, 4, From::Right, -4, 71, -30, FromY::Top, true},
+    {IDC_PROGRAM_THEMES_ADD, From::Left, 4, From::Middle, -2, -26, 22, FromY::Bottom},
+    {IDC_PROGRAM_THEMES_DELETE, From::Middle, 2, From::Right, -4, -26, 22, FromY::Bottom},
 };
-constexpr int kListTop = 91;
-constexpr int kButtonHeight = 22;
 
 // The folder holding the Programs special folder; empty when the shell does not know it.
 std::wstring ProgramsFolder() {
@@ -73,33 +73,16 @@ void ProgramDirectoriesPage::Create(HWND host) {
     for (Control c : kBold)
         SetControlFont(m_controls[c], CaptionFont());
     EnableWindow(m_controls[Delete], FALSE);
-    RECT client;
-    GetClientRect(host, &client);
-    OnSize(client);
+    OnSize(Area());
 }
 
 void ProgramDirectoriesPage::Show(bool visible) {
     ShowWindows(m_controls, Count, visible);
 }
 
-void ProgramDirectoriesPage::OnSize(const RECT& client) {
-    if (!m_controls[Path])
-        return;
-    const int width = client.right - client.left;
-    for (int i = 0; i < static_cast<int>(sizeof kTopPlaces / sizeof kTopPlaces[0]); ++i) {
-        const RECT r = PlaceRect(kTopPlaces[i], width);
-        MoveWindow(m_controls[i], r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
-    }
-    const int margin = ScaleX(4);
-    const int buttonTop = client.bottom - Scale(4) - Scale(kButtonHeight);
-    const int listTop = Scale(kListTop);
-    const int listBottom = buttonTop - Scale(4);
-    MoveWindow(m_controls[List], margin, listTop, width - 2 * margin,
-               listBottom > listTop ? listBottom - listTop : 0, TRUE);
-    const int buttonWidth = (width - 3 * margin) / 2;
-    MoveWindow(m_controls[Add], margin, buttonTop, buttonWidth, Scale(kButtonHeight), TRUE);
-    MoveWindow(m_controls[Delete], 2 * margin + buttonWidth, buttonTop, buttonWidth,
-               Scale(kButtonHeight), TRUE);
+void ProgramDirectoriesPage::OnSize(const RECT&) {
+    if (m_controls[Path])
+        PlaceControls(m_host, Area(), kPlaces);
 }
 
 void ProgramDirectoriesPage::Load(IniDocument* doc) {
@@ -130,7 +113,7 @@ std::vector<std::wstring> ProgramDirectoriesPage::Folders() const {
 }
 
 void ProgramDirectoriesPage::Save(IniDocument* target) {
-    if ((!target && !m_doc) || !m_controls[Path])
+    if ((!target && !Doc()) || !m_controls[Path])
         return;
     IniDocument& doc = SaveTarget(target);
     SaveStartMenuPath(doc, WindowText(m_controls[Path]));

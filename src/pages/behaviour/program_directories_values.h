@@ -5,13 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "store/config_sections.h"
 #include "store/ini_document.h"
 
 namespace cv2 {
 
-constexpr const wchar_t* kStartMenuSection = L"Start Menu Settings";
+constexpr const wchar_t* kStartMenuSection = config::kStartMenuSettings;
 constexpr const wchar_t* kStartMenuPathKey = L"Start Menu Path";
-constexpr const wchar_t* kThemeDirectoriesSection = L"Theme Directories";
+constexpr const wchar_t* kThemeDirectoriesSection = config::kThemeDirectories;
 // The start menu path is held in a buffer of this many characters.
 constexpr size_t kStartMenuPathChars = 260;
 

@@ -1,5 +1,7 @@
 #include "pages/behaviour/rule_format.h"
 
+#include "store/config_sections.h"
+
 namespace cv2 {
 namespace {
 
@@ -70,7 +72,7 @@ std::wstring Unquoted(const std::wstring& key) {
 } // namespace
 
 const RuleFormat kCustomTasksFormat = {
-    L"Custom Tasks",
+    config::kCustomTasks,
     /*quotedTitles*/ true,
     /*keepEmptyTitles*/ false,
     /*removeEmptySection*/ true,
@@ -87,7 +89,7 @@ const RuleFormat kCustomTasksFormat = {
 };
 
 const RuleFormat kCustomSipFormat = {
-    L"Custom SIP",
+    config::kCustomSip,
     /*quotedTitles*/ true,
     /*keepEmptyTitles*/ true,
     /*removeEmptySection*/ false,
@@ -104,7 +106,7 @@ const RuleFormat kCustomSipFormat = {
 };
 
 const RuleFormat kDontSkinFormat = {
-    L"Dont Skin",
+    config::kDontSkin,
     /*quotedTitles*/ false,
     /*keepEmptyTitles*/ false,
     /*removeEmptySection*/ true,

@@ -3,6 +3,7 @@
 #include "ids_behaviour.h"
 #include "pages/behaviour/custom_task_dialog.h"
 #include "store/scale.h"
+#include "ui/control_layout.h"
 #include "ui/shared_fonts.h"
 
 namespace cv2 {
@@ -35,9 +36,7 @@ void RuleListPage::Create(HWND host) {
     m_modify = MakeChild(L"BUTTON", Localized(IDS_MODIFY), button, IDC_RULE_MODIFY, CaptionFont());
     m_delete = MakeChild(L"BUTTON", Localized(IDS_DELETE), button, IDC_RULE_DELETE, CaptionFont());
     EnableEditing(false);
-    RECT client;
-    GetClientRect(host, &client);
-    OnSize(client);
+    OnSize(Area());
 }
 
 void RuleListPage::Show(bool visible) {
@@ -45,30 +44,28 @@ void RuleListPage::Show(bool visible) {
     ShowWindows(controls, sizeof controls / sizeof controls[0], visible);
 }
 
-// Below the header strip: the optional caption, the list, the optional check box, and the
-// three buttons in a row along the bottom.
-void RuleListPage::OnSize(const RECT& client) {
-    const int margin = ScaleX(4);
-    const int width = client.right - client.left;
-    int top = client.top + Scale(23);
-    if (m_caption) {
-        MoveWindow(m_caption, margin, top + Scale(4), width - 2 * margin, Scale(16), TRUE);
-        top += Scale(22);
-    }
-    const int buttonHeight = Scale(22);
-    const int buttonTop = client.bottom - Scale(4) - buttonHeight;
-    int listBottom = buttonTop - Scale(4);
-    if (m_option) {
-        const int optionTop = listBottom - Scale(20);
-        MoveWindow(m_option, margin, optionTop, width - 2 * margin, Scale(18), TRUE);
-        listBottom = optionTop - Scale(2);
-    }
-    MoveWindow(m_list, client.left, top, width, listBottom > top ? listBottom - top : 0, TRUE);
-    const int buttonWidth = (width - 4 * margin) / 3;
-    const HWND buttons[] = {m_add, m_modify, m_delete};
-    for (int i = 0; i < 3; ++i)
-        MoveWindow(buttons[i], margin + i * (buttonWidth + margin), buttonTop, buttonWidth,
-                   buttonHeight, TRUE);
+// The optional caption, the list, the optional check box, and the three buttons in a row
+// along the bottom. The three rule pages share control ids, so controls are placed by handle.
+void RuleListPage::OnSize(const RECT&) {
+    constexpr FromY kBottom = FromY::Bottom;
+    const ControlPlace caption = {0, From::Left, 4, From::Right, -4, 7, 16};
+    const ControlPlace option = {0, From::Left, 4, From::Right, -4, -50, 18, kBottom};
+    // The list ends above the check box when there is one, else above the buttons.
+    const ControlPlace list = {
+        0,          From::Left, 0, From::Right, 0, m_caption ? 25 : 3, m_option ? -52 : -30,
+        FromY::Top, true};
+    const ControlPlace buttons[] = {
+        {0, From::Left, 4, From::Third, -2, -26, 22, kBottom},
+        {0, From::Third, 2, From::TwoThirds, -2, -26, 22, kBottom},
+        {0, From::TwoThirds, 2, From::Right, -4, -26, 22, kBottom},
+    };
+    const RECT& area = Area();
+    PlaceWindow(m_caption, caption, area);
+    PlaceWindow(m_list, list, area);
+    PlaceWindow(m_option, option, area);
+    PlaceWindow(m_add, buttons[0], area);
+    PlaceWindow(m_modify, buttons[1], area);
+    PlaceWindow(m_delete, buttons[2], area);
 }
 
 void RuleListPage::Load(IniDocument* doc) {
@@ -84,7 +81,7 @@ void RuleListPage::Load(IniDocument* doc) {
 }
 
 void RuleListPage::Save(IniDocument* target) {
-    if (!target && !m_doc)
+    if (!target && !Doc())
         return;
     IniDocument& doc = SaveTarget(target);
     SaveRules(doc, *m_info.format, m_rules);
@@ -132,7 +129,7 @@ bool RuleListPage::OnCommand(WPARAM wParam, LPARAM lParam) {
 
 void RuleListPage::AddRule() {
     RuleRecord record = NewRecord(*m_info.format);
-    if (RunCustomTaskDialog(m_host, m_name.c_str(), record))
+    if (RunCustomTaskDialog(m_host, GetName(), record))
         Insert(EntryOfRecord(*m_info.format, record, LocalizedLabels(*m_info.format)));
 }
 
@@ -141,7 +138,7 @@ void RuleListPage::ModifyRule() {
     if (selected < 0)
         return;
     RuleRecord record = RecordOfEntry(*m_info.format, m_rules[static_cast<size_t>(selected)]);
-    if (!RunCustomTaskDialog(m_host, m_name.c_str(), record))
+    if (!RunCustomTaskDialog(m_host, GetName(), record))
         return;
     RemoveAt(static_cast<size_t>(selected));
     Insert(EntryOfRecord(*m_info.format, record, LocalizedLabels(*m_info.format)));

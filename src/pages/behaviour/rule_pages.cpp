@@ -1,5 +1,7 @@
 #include "pages/behaviour/rule_pages.h"
 
+#include "store/config_sections.h"
+
 namespace cv2 {
 namespace {
 
@@ -18,7 +20,7 @@ const RulePageInfo kSkinnedApplications = {IDS_SKINNED_APPS_TITLE,
                                            &kDontSkinFormat,
                                            IDS_SKINNED_APPS_LABEL,
                                            IDS_IGNORE_ALL_APPS,
-                                           L"General Settings",
+                                           config::kGeneralSettings,
                                            L"Ignore All Apps",
                                            false};
 

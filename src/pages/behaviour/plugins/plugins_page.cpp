@@ -9,13 +9,14 @@
 
 #include "ids_behaviour.h"
 #include "store/scale.h"
+#include "ui/control_layout.h"
 #include "ui/shared_fonts.h"
 
 namespace cv2 {
 namespace {
 
-// The list fills the page below the host's header strip.
-constexpr int kListTop = 23;
+// The list fills the page, a little below its top.
+constexpr ControlPlace kListPlace = FillingPlace(IDC_PLUGIN_LIST, 3);
 
 } // namespace
 
@@ -41,23 +42,17 @@ void PluginsPage::Create(HWND host) {
     LVCOLUMNW column = {};
     column.mask = LVCF_WIDTH;
     SendMessageW(m_list, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
-    RECT client = {};
-    GetClientRect(host, &client);
-    OnSize(client);
+    OnSize(Area());
 }
 
 void PluginsPage::Show(bool visible) {
     ShowWindows(&m_list, 1, visible);
 }
 
-void PluginsPage::OnSize(const RECT& client) {
+void PluginsPage::OnSize(const RECT&) {
     if (!m_list)
         return;
-    const int top = Scale(kListTop);
-    const int width = client.right - client.left;
-    SetWindowPos(m_list, nullptr, 0, top, width,
-                 std::max(0, static_cast<int>(client.bottom - client.top) - top),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    PlaceControls(GetParent(m_list), Area(), &kListPlace, 1);
     // One column, the list's width less a margin so no sideways scroll bar appears.
     RECT inside = {};
     GetClientRect(m_list, &inside);

@@ -1,2 +1,0 @@
-// Resource ids of the appearance area, at their documented numbers.
-#pragma once

@@ -1,0 +1,1 @@
+// Texts of the appearance pages with controls of their own, and their dialogs.

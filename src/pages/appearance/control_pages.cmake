@@ -1,0 +1,1 @@
+# Pages with controls of their own: values (portable) and pages (Win32).

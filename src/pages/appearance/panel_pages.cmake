@@ -1,0 +1,1 @@
+# Pages that borrow the theme editor's image panel: values (portable) and pages (Win32).

@@ -1,5 +1,5 @@
-// Drives the program's modal dialogs from inside their own message loops, and a plain host
-// window to own them. Shared by the colour and font picker tests.
+// Working the colour picker from a dialog that opens it, and a plain host window to own the
+// dialogs under test. Shared by the colour and font picker tests.
 #pragma once
 
 #include <windows.h>
@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "dialog_driver.h"
 #include "ids_ui.h"
 #include "screen_capture.h"
 #include "store/screen.h"
@@ -18,59 +19,6 @@
 #include "ui/shared_fonts.h"
 
 namespace cv2test {
-
-// Runs `body` on the next dialog that opens and then ends it with `endWith` (IDOK, IDCANCEL),
-// so that a failed expectation cannot leave a modal loop running. A thread timer does the work:
-// the modal loop dispatches it. The dialog looked for is the enabled one, which is the innermost
-// modal dialog when dialogs are nested.
-class DialogDriver {
-  public:
-    static void OnNextDialog(std::function<void(HWND)> body, int endWith) {
-        Pending().push_back({std::move(body), endWith, 0});
-        Pending().back().timer = SetTimer(nullptr, 0, 30, TimerProc);
-    }
-    // Sends a click of a push button or check box the way the dialog manager reports it.
-    static void Click(HWND dlg, int id) {
-        SendMessageW(dlg, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
-                     reinterpret_cast<LPARAM>(GetDlgItem(dlg, id)));
-    }
-
-  private:
-    struct Job {
-        std::function<void(HWND)> body;
-        int endWith;
-        UINT_PTR timer;
-    };
-    static std::vector<Job>& Pending() {
-        static std::vector<Job> jobs;
-        return jobs;
-    }
-    static BOOL CALLBACK FindDialog(HWND hwnd, LPARAM found) {
-        wchar_t cls[16] = {};
-        GetClassNameW(hwnd, cls, 16);
-        if (lstrcmpW(cls, L"#32770") == 0 && IsWindowEnabled(hwnd))
-            *reinterpret_cast<HWND*>(found) = hwnd;
-        return TRUE;
-    }
-    static void CALLBACK TimerProc(HWND, UINT, UINT_PTR id, DWORD) {
-        std::vector<Job>& jobs = Pending();
-        for (size_t i = 0; i < jobs.size(); ++i) {
-            if (jobs[i].timer != id)
-                continue;
-            HWND dlg = nullptr;
-            EnumThreadWindows(GetCurrentThreadId(), FindDialog, reinterpret_cast<LPARAM>(&dlg));
-            if (!dlg)
-                return; // not open yet: try again on the next tick
-            KillTimer(nullptr, id);
-            Job job = std::move(jobs[i]);
-            jobs.erase(jobs.begin() + static_cast<std::ptrdiff_t>(i));
-            job.body(dlg);
-            if (IsWindow(dlg))
-                PostMessageW(dlg, WM_COMMAND, MAKEWPARAM(job.endWith, BN_CLICKED), 0);
-            return;
-        }
-    }
-};
 
 // Clicks a colour button of `dlg` and, in the colour picker that opens, sets red, green and blue
 // through the number boxes before ending it with `endWith`; `shownColor` receives the colour the

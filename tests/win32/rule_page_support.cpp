@@ -13,20 +13,6 @@ namespace cv2test {
 namespace {
 
 const wchar_t kHostClass[] = L"CV2TestPageHost";
-const DWORD kStuckMs = 4000;
-DialogDriver* g_driver = nullptr;
-
-struct FrontDialog {
-    HWND found = nullptr;
-};
-
-BOOL CALLBACK FindFrontDialog(HWND hwnd, LPARAM param) {
-    wchar_t cls[16] = {};
-    GetClassNameW(hwnd, cls, 16);
-    if (lstrcmpW(cls, L"#32770") == 0 && IsWindowVisible(hwnd) && IsWindowEnabled(hwnd))
-        reinterpret_cast<FrontDialog*>(param)->found = hwnd;
-    return TRUE;
-}
 
 } // namespace
 
@@ -118,51 +104,6 @@ std::vector<LPARAM> PageHost::ListData() const {
     for (LRESULT i = 0; i < count; ++i)
         data.push_back(SendMessageW(list, LB_GETITEMDATA, i, 0));
     return data;
-}
-
-DialogDriver::DialogDriver(std::vector<Step> steps) : m_steps(std::move(steps)) {
-    // A quit request left by an earlier test (a main window posts one when destroyed) would end
-    // the next modal loop at once.
-    MSG stale;
-    while (PeekMessageW(&stale, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
-    }
-    g_driver = this;
-    m_idleSince = GetTickCount();
-    m_timer = SetTimer(nullptr, 0, 40, Tick);
-}
-
-DialogDriver::~DialogDriver() {
-    KillTimer(nullptr, m_timer);
-    g_driver = nullptr;
-}
-
-void CALLBACK DialogDriver::Tick(HWND, UINT, UINT_PTR, DWORD) {
-    if (g_driver)
-        g_driver->OnTick();
-}
-
-void DialogDriver::OnTick() {
-    if (m_busy)
-        return;
-    FrontDialog front;
-    EnumThreadWindows(GetCurrentThreadId(), FindFrontDialog, reinterpret_cast<LPARAM>(&front));
-    if (!front.found) {
-        m_idleSince = GetTickCount();
-        return;
-    }
-    if (m_next < m_steps.size()) {
-        m_idleSince = GetTickCount();
-        // A step may pump messages (a screenshot does); its own ticks must not run the next step.
-        m_busy = true;
-        m_steps[m_next++](front.found);
-        m_busy = false;
-        return;
-    }
-    if (GetTickCount() - m_idleSince > kStuckMs) {
-        m_cancelledStuck = true;
-        m_idleSince = GetTickCount();
-        PostMessageW(front.found, WM_COMMAND, IDCANCEL, 0);
-    }
 }
 
 cv2::IniDocument DocOf(const std::string& text) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "check_pages_host.h" // WindowText
+#include "dialog_driver.h"
 #include "store/ini_document.h"
 #include "ui/settings_page.h"
 
@@ -42,34 +43,6 @@ class PageHost {
     static LRESULT CALLBACK Proc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam);
     HWND m_hwnd = nullptr;
     std::vector<cv2::SettingsPage*> m_pages;
-};
-
-// Works the modal dialogs that open while it lives: each step runs once, in order, on the
-// dialog in front (the topmost enabled dialog of this thread) as soon as one is up. A dialog
-// left open with no step to run is cancelled after a few seconds, so a test never hangs.
-// Steps post the commands that open or close dialogs (PressItem) instead of sending them.
-class DialogDriver {
-  public:
-    using Step = std::function<void(HWND dialog)>;
-    explicit DialogDriver(std::vector<Step> steps);
-    ~DialogDriver();
-    DialogDriver(const DialogDriver&) = delete;
-    DialogDriver& operator=(const DialogDriver&) = delete;
-
-    size_t StepsRun() const { return m_next; }
-    bool AllStepsRun() const { return m_next == m_steps.size(); }
-    bool CancelledAStuckDialog() const { return m_cancelledStuck; }
-
-  private:
-    static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD);
-    void OnTick();
-
-    std::vector<Step> m_steps;
-    size_t m_next = 0;
-    UINT_PTR m_timer = 0;
-    DWORD m_idleSince = 0;
-    bool m_cancelledStuck = false;
-    bool m_busy = false;
 };
 
 // A document parsed from file text.

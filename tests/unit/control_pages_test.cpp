@@ -173,7 +173,7 @@ TEST(SoundEventValues, ThemeWithoutSoundsSavesAllThirteenKeysEmpty) {
                                                 L"NotificationReminder"};
     EXPECT_EQ(KeysOf(doc, L"Sounds"), expected);
     for (const IniDocument::EntryRef& e : doc.GetSectionEntries(L"Sounds"))
-        EXPECT_EQ(e.second, L"");
+        EXPECT_EQ(std::wstring(e.second), L"");
 }
 
 TEST(SoundEventValues, NamesAreNumberedFrom169AndTheReminderIs298) {

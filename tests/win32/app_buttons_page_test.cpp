@@ -99,10 +99,12 @@ TEST_F(AppButtonsPageTest, ImagesDialogOpensOnThePathsAndMarginsAndOkReplacesAll
     EXPECT_EQ(shownFocused, L"f.png");
     EXPECT_EQ(shownLeft, L"5");
     EXPECT_EQ(shownBottom, L"0");
-    EXPECT_EQ(cv2test::SectionLinesOf(doc, L"Buttons", 8),
-              (std::vector<std::wstring>{L"normal=N2.png", L"pressed=P2.png", L"disabled=D2.png",
-                                         L"focused=F2.png", L"left=11", L"right=12", L"top=13",
-                                         L"bottom=14"}));
+    const std::pair<const wchar_t*, const wchar_t*> stored[] = {
+        {L"normal", L"N2.png"}, {L"pressed", L"P2.png"}, {L"disabled", L"D2.png"},
+        {L"focused", L"F2.png"}, {L"left", L"11"},       {L"right", L"12"},
+        {L"top", L"13"},         {L"bottom", L"14"}};
+    for (const auto& key : stored)
+        EXPECT_EQ(doc.GetString(L"Buttons", key.first, L"-"), key.second) << key.first;
 }
 
 TEST_F(AppButtonsPageTest, EnteringAnEmptyMarginFieldAndPressingOkStoresZero) {

@@ -95,7 +95,7 @@ TEST_F(SoundEventsPageTest, ThemeWithNoSoundsSectionSavesAllThirteenKeysEmpty) {
     EXPECT_EQ(keys.front(), L"Close");
     EXPECT_EQ(keys.back(), L"NotificationReminder");
     for (const auto& e : doc.GetSectionEntries(L"Sounds"))
-        EXPECT_EQ(e.second, L"");
+        EXPECT_EQ(std::wstring(e.second), L"");
 }
 
 TEST_F(SoundEventsPageTest, TheFirstEventShowsAtOnceAndTheListHoldsAllThirteen) {

@@ -56,14 +56,14 @@ const ControlPlace kImagePlaces[] = {
     PathPlace(IDC_ROW_FOCUSED, 79),
     BrowsePlace(IDC_ROW_FOCUSED_BROWSE, 79),
     {IDC_MARGINS_HEADING, From::Left, 4, From::Right, -4, 108, 16},
-    {IDC_MARGIN_LEFT_LABEL, From::Left, 4, From::Left, 50, 130, 16},
-    {IDC_MARGIN_LEFT, From::Left, 52, From::Middle, -4, 127, 21},
-    {IDC_MARGIN_RIGHT_LABEL, From::Middle, 4, From::Middle, 50, 130, 16},
-    {IDC_MARGIN_RIGHT, From::Middle, 52, From::Right, -4, 127, 21},
-    {IDC_MARGIN_TOP_LABEL, From::Left, 4, From::Left, 50, 155, 16},
-    {IDC_MARGIN_TOP, From::Left, 52, From::Middle, -4, 152, 21},
-    {IDC_MARGIN_BOTTOM_LABEL, From::Middle, 4, From::Middle, 50, 155, 16},
-    {IDC_MARGIN_BOTTOM, From::Middle, 52, From::Right, -4, 152, 21},
+    {IDC_MARGIN_LEFT_LABEL, From::Left, 4, From::Left, 54, 130, 16},
+    {IDC_MARGIN_LEFT, From::Left, 56, From::Middle, -4, 127, 21},
+    {IDC_MARGIN_RIGHT_LABEL, From::Middle, 4, From::Middle, 54, 130, 16},
+    {IDC_MARGIN_RIGHT, From::Middle, 56, From::Right, -4, 127, 21},
+    {IDC_MARGIN_TOP_LABEL, From::Left, 4, From::Left, 54, 155, 16},
+    {IDC_MARGIN_TOP, From::Left, 56, From::Middle, -4, 152, 21},
+    {IDC_MARGIN_BOTTOM_LABEL, From::Middle, 4, From::Middle, 54, 155, 16},
+    {IDC_MARGIN_BOTTOM, From::Middle, 56, From::Right, -4, 152, 21},
 };
 const int kImageBold[] = {IDC_MARGINS_HEADING};
 

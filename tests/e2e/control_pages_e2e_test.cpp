@@ -3,11 +3,14 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 #include "device_fixture.h"
 #include "ids_appearance_controls.h"
 #include "ids_themes.h"
 #include "ids_ui.h"
+#include "store/ini_document.h"
+#include "test_data.h"
 
 namespace cv2test {
 namespace {
@@ -111,16 +114,32 @@ TEST_F(ControlPagesE2E, AColourAFontAndASoundPathChangedFromOutsideReachConfigAf
 }
 
 TEST_F(ControlPagesE2E, CustomizeThenOkThenApplyWritesTheDefaultsOfEveryPage) {
+    const std::string text = TestDataText("theme_editor/editor_defaults.ini");
+    ASSERT_FALSE(text.empty()) << "the expected file could not be read";
+    cv2::IniDocument expected;
+    expected.Parse(reinterpret_cast<const unsigned char*>(text.data()), text.size());
     HWND editor = OpenEditor();
     ASSERT_TRUE(editor) << "Customize opened no editor";
     ASSERT_TRUE(End(editor, IDOK));
     Apply();
-    EXPECT_NE(SectionText("Buttons").find(Lines("left=3\nright=3\ntop=0\nbottom=0\n")),
-              std::string::npos);
-    EXPECT_NE(SectionText("Small Clock Font").find(Lines("Size=6\nColor=16777215\n")),
-              std::string::npos);
-    EXPECT_NE(SectionText("Sounds").find(Lines("NotificationReminder=\n")), std::string::npos);
-    EXPECT_NE(SectionText("Colors").find(Lines("WindowFrame=0\n")), std::string::npos);
+    cv2::IniDocument written;
+    ASSERT_TRUE(written.Load(File(L"config.ini")));
+    // The appearance sections stand in config.ini in the expected order, each key by key.
+    size_t previous = 0;
+    for (const auto& section : expected.Sections()) {
+        size_t at = 0;
+        while (at < written.Sections().size() && written.Sections()[at].name != section.name)
+            ++at;
+        ASSERT_LT(at, written.Sections().size()) << Narrow(section.name) << " is missing";
+        EXPECT_GE(at, previous) << Narrow(section.name) << " is out of order";
+        previous = at;
+        std::vector<std::wstring> want, got;
+        for (const auto& e : expected.GetSectionEntries(section.name.c_str()))
+            want.push_back(std::wstring(e.first) + L"=" + e.second);
+        for (const auto& e : written.GetSectionEntries(section.name.c_str()))
+            got.push_back(std::wstring(e.first) + L"=" + e.second);
+        EXPECT_EQ(got, want) << Narrow(section.name);
+    }
 }
 
 TEST_F(ControlPagesE2E, CustomizeThenCancelThenApplyWritesNoneOfThem) {

@@ -2,35 +2,21 @@
 // appearance page's defaults in page order and key order, as the hand-written expected file
 // holds them; Cancel writes nothing.
 #include <algorithm>
-#include <fstream>
-#include <sstream>
 
 #include "control_pages_support.h"
 #include "temp_folder.h"
+#include "test_data.h"
 
 using namespace cv2;
 
 namespace {
-
-// A file of the source tree's test data, read through the drive that shows the Linux root.
-std::string TestDataText(const std::string& name) {
-    std::string folder = __FILE__;
-    folder = folder.substr(0, folder.find_last_of("/\\") + 1) + "../data/";
-    std::string path = folder + name;
-    if (!path.empty() && path[0] == '/')
-        path = "Z:" + path;
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
 
 class EditorDefaultsTest : public cv2test::ControlPagesTest {};
 
 } // namespace
 
 TEST_F(EditorDefaultsTest, OkOnAnEmptyConfigWritesEveryPagesDefaultsInPageAndKeyOrder) {
-    const std::string expected = TestDataText("theme_editor/editor_defaults.ini");
+    const std::string expected = cv2test::TestDataText("theme_editor/editor_defaults.ini");
     ASSERT_FALSE(expected.empty()) << "the expected file could not be read";
     cv2test::TempFolder dir;
     dir.Write(L"config.ini", "");

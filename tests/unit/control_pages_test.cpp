@@ -280,19 +280,30 @@ TEST(CustomNotifications, ATitleWithAnEqualsSignComesBackWhole) {
     EXPECT_EQ(reread.GetString(L"After", L"Key", L"-"), L"2");
 }
 
-TEST(CustomNotifications, ATitleWithAClosingBracketKeepsTheListButLosesItsPictures) {
+TEST(CustomNotifications, ATitleWithAClosingBracketComesBackWithItsPictures) {
     IniDocument reread;
     const auto entries =
         RoundTrip({{L"Call [1] missed", L"n.png", L"p.png"}, {L"Mail", L"m.png", L""}}, reread);
-    // The section header ends at the first "]": the pictures land in "Notify.Call [1", the rest
-    // of the header line is passed over, and every other section reads back as written.
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(entries[0].title, L"Call [1] missed");
-    EXPECT_EQ(entries[0].normalImage, L"");
-    EXPECT_EQ(reread.GetString(L"Notify.Call [1", L"Normal", L"-"), L"n.png");
+    EXPECT_EQ(entries[0].normalImage, L"n.png");
+    EXPECT_EQ(entries[0].pressedImage, L"p.png");
     EXPECT_EQ(entries[1].normalImage, L"m.png");
     EXPECT_EQ(reread.GetString(L"Before", L"Key", L"-"), L"1");
     EXPECT_EQ(reread.GetString(L"After", L"Key", L"-"), L"2");
+}
+
+TEST(CustomNotifications, SavingATitleWithAClosingBracketAgainAndAgainLeavesOneSection) {
+    IniDocument doc;
+    WriteCustomNotifications(doc, {{L"a]b", L"n.png", L"p.png"}});
+    for (int round = 0; round < 3; ++round) {
+        doc = Parsed(doc.Serialize());
+        WriteCustomNotifications(doc, ReadCustomNotifications(doc));
+    }
+    const IniDocument reread = Parsed(doc.Serialize());
+    EXPECT_EQ(cv2test::SectionNames(reread),
+              (cv2test::Lines{L"Notify.a", L"Custom Notifications"}));
+    EXPECT_EQ(ReadCustomNotifications(reread)[0].normalImage, L"n.png");
 }
 
 TEST(CustomNotifications, ATitleOf300CharactersIsCutTo259) {

@@ -2,7 +2,6 @@
 // dialog, the font picker and the colour picker on copies, and only Save writes section
 // "Buttons".
 #include "control_pages_support.h"
-#include "ids_ui.h"
 #include "pages/appearance/editor_buttons_page.h"
 
 using namespace cv2;
@@ -100,8 +99,8 @@ TEST_F(AppButtonsPageTest, ImagesDialogOpensOnThePathsAndMarginsAndOkReplacesAll
     EXPECT_EQ(shownLeft, L"5");
     EXPECT_EQ(shownBottom, L"0");
     const std::pair<const wchar_t*, const wchar_t*> stored[] = {
-        {L"normal", L"N2.png"}, {L"pressed", L"P2.png"}, {L"disabled", L"D2.png"},
-        {L"focused", L"F2.png"}, {L"left", L"11"},       {L"right", L"12"},
+        {L"normal", L"N2.png"},  {L"pressed", L"P2.png"}, {L"disabled", L"D2.png"},
+        {L"focused", L"F2.png"}, {L"left", L"11"},        {L"right", L"12"},
         {L"top", L"13"},         {L"bottom", L"14"}};
     for (const auto& key : stored)
         EXPECT_EQ(doc.GetString(L"Buttons", key.first, L"-"), key.second) << key.first;
@@ -189,14 +188,7 @@ TEST_F(AppButtonsPageTest, FontButtonPicksTheButtonFont) {
     RunEditor(
         {NewAppButtonsPage()},
         [&](HWND dlg, ThemeEditor&) {
-            DialogDriver::OnNextDialog(
-                [](HWND picker) {
-                    SetDlgItemTextW(picker, IDC_FONT_SIZE, L"11");
-                    SendMessageW(picker, WM_COMMAND, MAKEWPARAM(IDC_FONT_SIZE, CBN_EDITCHANGE),
-                                 reinterpret_cast<LPARAM>(GetDlgItem(picker, IDC_FONT_SIZE)));
-                },
-                IDOK);
-            DialogDriver::Click(dlg, IDC_APP_FONT);
+            cv2test::PickFontSizeThrough(dlg, IDC_APP_FONT, L"11", IDOK);
         },
         IDOK);
     EXPECT_EQ(doc.GetString(L"Buttons", L"Size", L"-"), L"11");

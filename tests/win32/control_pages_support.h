@@ -12,6 +12,7 @@
 #include "background_dialog_steps.h"
 #include "ids_appearance_controls.h"
 #include "ids_editor.h"
+#include "ids_ui.h"
 #include "theme_editor_support.h"
 #include "themes/theme_editor.h"
 
@@ -83,6 +84,22 @@ inline std::vector<std::wstring> KeysOf(const cv2::IniDocument& doc, const wchar
     for (const cv2::IniDocument::EntryRef& e : doc.GetSectionEntries(section))
         keys.push_back(e.first);
     return keys;
+}
+
+// Clicks `button` of `dlg` and, in the font picker that opens, types `size` into the size box
+// before ending it with `endWith`; `shownSize` receives the size the picker opened with.
+inline void PickFontSizeThrough(HWND dlg, int button, const std::wstring& size, int endWith,
+                                std::wstring* shownSize = nullptr) {
+    DialogDriver::OnNextDialog(
+        [=](HWND picker) {
+            if (shownSize)
+                *shownSize = DlgText(picker, IDC_FONT_SIZE);
+            SetDlgItemTextW(picker, IDC_FONT_SIZE, size.c_str());
+            SendMessageW(picker, WM_COMMAND, MAKEWPARAM(IDC_FONT_SIZE, CBN_EDITCHANGE),
+                         reinterpret_cast<LPARAM>(GetDlgItem(picker, IDC_FONT_SIZE)));
+        },
+        endWith);
+    DialogDriver::Click(dlg, button);
 }
 
 // The first `count` entries of a section as "key=value", in stored order.

@@ -4,6 +4,9 @@
 #include <algorithm>
 
 #include "control_pages_support.h"
+#include "pages/appearance/editor_buttons_page.h"
+#include "pages/appearance/list_pages.h"
+#include "pages/appearance/notifications_page.h"
 #include "temp_folder.h"
 #include "test_data.h"
 
@@ -51,4 +54,31 @@ TEST_F(EditorDefaultsTest, PagesStandInTheirPlacesInThePageMenu) {
     for (size_t i = 1; i < sizeof order / sizeof order[0]; ++i)
         EXPECT_LT(at(order[i - 1]), at(order[i])) << "page " << i;
     EXPECT_EQ(names.back(), L"System Colors");
+}
+
+TEST_F(EditorDefaultsTest, EveryPageWithItsOwnControlsHidesTheImagePanelAndShowsItsControls) {
+    struct Maker {
+        SettingsPage* (*make)();
+        int control;
+    };
+    const Maker makers[] = {{NewAppButtonsPage, IDC_APP_IMAGES},
+                            {NewTaskbarFontsPage, IDC_FONTS_TITLE},
+                            {NewSoundEventsPage, IDC_SOUNDS_LIST},
+                            {NewNotificationsPage, IDC_NOTIFY_LIST},
+                            {NewSystemColorsPage, IDC_COLORS_LIST}};
+    for (const Maker& maker : makers) {
+        bool panelBefore = false, panelAfter = true, controlShown = false;
+        RunEditor(
+            {new cv2test::PanelPage, maker.make()},
+            [&](HWND dlg, ThemeEditor& editor) {
+                panelBefore = cv2test::AnyPanelControlShown(dlg);
+                editor.Host().SelectPage(1);
+                panelAfter = cv2test::AnyPanelControlShown(dlg);
+                controlShown = cv2test::Shown(dlg, maker.control);
+            },
+            IDCANCEL);
+        EXPECT_TRUE(panelBefore) << maker.control;
+        EXPECT_FALSE(panelAfter) << maker.control;
+        EXPECT_TRUE(controlShown) << maker.control;
+    }
 }

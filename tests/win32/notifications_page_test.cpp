@@ -194,8 +194,19 @@ TEST_F(NotificationsPageTest, TitlesWithBracketOrEqualsSignNeverBreakTheFile) {
     EXPECT_EQ(reread.GetString(L"Custom Notifications", L"2", L"-"), L"a=b");
     EXPECT_EQ(reread.GetString(L"Notify.a=b", L"Normal", L"-"), L"eq.png");
     EXPECT_EQ(reread.GetString(L"Custom Notifications", L"3", L"-"), L"Call [2] missed");
-    // The header of the bracketed title ends at its first "]".
+    // The header of the bracketed title reads back up to its first "]".
     EXPECT_EQ(reread.GetString(L"Notify.Call [2", L"Normal", L"-"), L"br.png");
+    // Read again from the file, the entry still has its pictures.
+    doc = reread;
+    std::vector<std::wstring> rows;
+    RunEditor(
+        {NewNotificationsPage()},
+        [&](HWND dlg, ThemeEditor&) {
+            cv2test::PickListRow(dlg, IDC_NOTIFY_LIST, 3);
+            ThroughDialog(dlg, IDC_NOTIFY_MODIFY, {}, IDCANCEL, &rows);
+        },
+        IDCANCEL);
+    EXPECT_EQ(rows, (std::vector<std::wstring>{L"Call [2] missed", L"br.png", L""}));
     EXPECT_EQ(reread.GetString(L"Notify.Mail", L"Normal", L"-"), L"m.png");
 }
 

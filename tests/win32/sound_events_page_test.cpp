@@ -165,18 +165,6 @@ TEST_F(SoundEventsPageTest, AReloadedThemeShowsInThePathOfTheSelectedEvent) {
     EXPECT_EQ(path, L"menu.wav");
 }
 
-TEST_F(SoundEventsPageTest, ShowingThePageHidesTheImagePanel) {
-    bool hidden = false;
-    RunEditor(
-        {new cv2test::PanelPage, NewSoundEventsPage()},
-        [&](HWND dlg, ThemeEditor& editor) {
-            editor.Host().SelectPage(1);
-            hidden = !cv2test::AnyPanelControlShown(dlg) && cv2test::Shown(dlg, IDC_SOUNDS_LIST);
-        },
-        IDCANCEL);
-    EXPECT_TRUE(hidden);
-}
-
 // The platform's own playback, without the recorder.
 class SoundPlayback : public cv2test::ControlPagesTest {};
 

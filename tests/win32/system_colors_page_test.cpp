@@ -109,18 +109,6 @@ TEST_F(SystemColorsPageTest, CancelledChangeKeepsTheColour) {
     EXPECT_EQ(doc.GetString(L"Colors", L"Active Caption", L"-"), L"10027008");
 }
 
-TEST_F(SystemColorsPageTest, ShowingThePageHidesTheImagePanel) {
-    bool hidden = false;
-    RunEditor(
-        {new cv2test::PanelPage, NewSystemColorsPage()},
-        [&](HWND dlg, ThemeEditor& editor) {
-            editor.Host().SelectPage(1);
-            hidden = !cv2test::AnyPanelControlShown(dlg) && cv2test::Shown(dlg, IDC_COLORS_LIST);
-        },
-        IDCANCEL);
-    EXPECT_TRUE(hidden);
-}
-
 TEST(SystemColorsDevice, WithoutTheColorKeyThemeColourZeroAndSixAreTheirFallbacks) {
     RegDeleteTreeW(HKEY_LOCAL_MACHINE, kThemeColorKey);
     EXPECT_EQ(PlatformColors().ThemeColor(0), 0x00E76D08u);

@@ -1,7 +1,6 @@
 // The Taskbar Fonts page in the real theme editor: three buttons, each opening the font picker
 // on its own record; the records' white, shadowed defaults.
 #include "control_pages_support.h"
-#include "ids_ui.h"
 #include "pages/appearance/editor_buttons_page.h"
 
 using namespace cv2;
@@ -11,22 +10,12 @@ namespace {
 
 class TaskbarFontsPageTest : public cv2test::ControlPagesTest {
   protected:
-    // Clicks `button` on the page and, in the font picker, types `size` and ends with `endWith`;
-    // `shownSize` receives the size the picker opened with.
+    // Picks a size for the font of `button` and ends the editor with OK.
     void PickSize(int button, const wchar_t* size, int endWith, std::wstring* shownSize = nullptr) {
         RunEditor(
             {NewTaskbarFontsPage()},
             [&](HWND dlg, ThemeEditor&) {
-                DialogDriver::OnNextDialog(
-                    [&](HWND picker) {
-                        if (shownSize)
-                            *shownSize = cv2test::DlgText(picker, IDC_FONT_SIZE);
-                        SetDlgItemTextW(picker, IDC_FONT_SIZE, size);
-                        SendMessageW(picker, WM_COMMAND, MAKEWPARAM(IDC_FONT_SIZE, CBN_EDITCHANGE),
-                                     reinterpret_cast<LPARAM>(GetDlgItem(picker, IDC_FONT_SIZE)));
-                    },
-                    endWith);
-                DialogDriver::Click(dlg, button);
+                cv2test::PickFontSizeThrough(dlg, button, size, endWith, shownSize);
             },
             IDOK);
     }

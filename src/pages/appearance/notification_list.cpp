@@ -9,6 +9,14 @@ namespace {
 
 const wchar_t kCustomNotifications[] = L"Custom Notifications";
 
+// A section header ends at its first "]": a title holding one is written whole but reads back
+// as the part before it. The pictures are looked for under both names and both are removed
+// before a save, so such an entry keeps its pictures and leaves one section, however often the
+// theme is saved and read again.
+std::wstring ReadBackName(const std::wstring& section) {
+    return section.substr(0, section.find(L']'));
+}
+
 } // namespace
 
 std::wstring NotifySectionOf(const std::wstring& title) {
@@ -27,7 +35,9 @@ std::vector<CustomNotification> ReadCustomNotifications(const IniDocument& doc) 
     std::vector<CustomNotification> entries;
     const SettingKey* keys = kNotifyImagesSection.keys;
     for (const std::wstring& title : CustomNotificationNames(doc)) {
-        const std::wstring section = NotifySectionOf(title);
+        std::wstring section = NotifySectionOf(title);
+        if (!doc.HasSection(section.c_str()))
+            section = ReadBackName(section);
         CustomNotification entry;
         entry.title = title;
         entry.normalImage = doc.GetString(section.c_str(), keys[kNotifyNormal].key, L"");
@@ -39,8 +49,11 @@ std::vector<CustomNotification> ReadCustomNotifications(const IniDocument& doc) 
 
 void WriteCustomNotifications(IniDocument& doc, const std::vector<CustomNotification>& entries) {
     std::vector<std::wstring> doomed;
-    for (const std::wstring& title : CustomNotificationNames(doc))
+    for (const std::wstring& title : CustomNotificationNames(doc)) {
         doomed.push_back(NotifySectionOf(title));
+        if (title.find(L']') != std::wstring::npos)
+            doomed.push_back(ReadBackName(doomed.back()));
+    }
     doomed.push_back(kCustomNotifications);
     doc.DeleteSections(doomed);
     const SettingKey* keys = kNotifyImagesSection.keys;

@@ -31,7 +31,8 @@ std::vector<CustomNotification> ReadCustomNotifications(const IniDocument& doc);
 // Replaces the list in `doc`: first deletes the picture sections of the titles listed there now
 // (up to the first gap) and the list itself, then writes each entry's pictures and its title
 // under the next number. Entries that share a title share one picture section; the later one's
-// pictures stay. An empty list leaves neither the list section nor any picture section.
+// pictures stay. An empty list leaves neither the list section nor any picture section. A title
+// may hold any character: one with "]" reads back with its pictures (see the source).
 void WriteCustomNotifications(IniDocument& doc, const std::vector<CustomNotification>& entries);
 
 } // namespace cv2

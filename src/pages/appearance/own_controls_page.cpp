@@ -68,6 +68,19 @@ HWND OwnControlsPage::Control(int id) const {
     return nullptr;
 }
 
+OwnControl RowNameLabel(int id) {
+    return {{L"STATIC", SS_LEFT | SS_NOPREFIX, 0, StringId(0), id},
+            {id, From::Left, 3, From::Left, 203, 8, 15},
+            true};
+}
+
+OwnControl RowList(int id) {
+    return {{L"LISTBOX", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP, 0,
+             StringId(0), id},
+            {id, From::Left, 3, From::Right, -1, 48, 0, FromY::Top, true},
+            false};
+}
+
 void FillNameList(HWND list, const StringId* names, size_t count) {
     for (size_t i = 0; i < count; ++i)
         SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Localized(names[i])));

@@ -50,6 +50,11 @@ class OwnControlsPage : public SettingsPage {
     HWND m_host = nullptr;
 };
 
+// The two controls of a page that lists named rows: the selected row's name on the first line,
+// and the list below the row's own controls, filling the rest of the page.
+OwnControl RowNameLabel(int id);
+OwnControl RowList(int id);
+
 // Puts the localised names into a list box in table order and selects the first.
 void FillNameList(HWND list, const StringId* names, size_t count);
 // The selected row of a list box; `count` when none is selected.

@@ -14,9 +14,7 @@ namespace {
 // Places inside the page's area: the event's name, its path with "..." and ">" beside it, the
 // list of events filling the rest.
 const OwnControl kControls[] = {
-    {{L"STATIC", SS_LEFT | SS_NOPREFIX, 0, StringId(0), IDC_SOUNDS_NAME},
-     {IDC_SOUNDS_NAME, From::Left, 3, From::Left, 203, 8, 15},
-     true},
+    RowNameLabel(IDC_SOUNDS_NAME),
     {{L"EDIT", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP, 0, StringId(0), IDC_SOUNDS_PATH},
      {IDC_SOUNDS_PATH, From::Left, 3, From::Left, 185, 25, 20},
      false},
@@ -26,10 +24,7 @@ const OwnControl kControls[] = {
     {{L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, StringId(0), IDC_SOUNDS_PLAY},
      {IDC_SOUNDS_PLAY, From::Left, 214, From::Left, 237, 24, 22},
      false},
-    {{L"LISTBOX", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP, 0,
-      StringId(0), IDC_SOUNDS_LIST},
-     {IDC_SOUNDS_LIST, From::Left, 3, From::Right, -1, 48, 0, FromY::Top, true},
-     false},
+    RowList(IDC_SOUNDS_LIST),
 };
 
 class SoundEventsPage : public OwnControlsPage {

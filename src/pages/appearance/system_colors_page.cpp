@@ -12,16 +12,11 @@ namespace {
 // Places inside the page's area: the name on the first line, the swatch and "Change" beside
 // each other under it, the list filling the rest.
 const OwnControl kControls[] = {
-    {{L"STATIC", SS_LEFT | SS_NOPREFIX, 0, StringId(0), IDC_COLORS_NAME},
-     {IDC_COLORS_NAME, From::Left, 3, From::Right, -3, 8, 16},
-     true},
+    RowNameLabel(IDC_COLORS_NAME),
     {{L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_CHANGE, IDC_COLORS_CHANGE},
      {IDC_COLORS_CHANGE, From::Left, 84, From::Left, 159, 24, 23},
      false},
-    {{L"LISTBOX", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP, 0,
-      StringId(0), IDC_COLORS_LIST},
-     {IDC_COLORS_LIST, From::Left, 3, From::Right, -1, 48, 0, FromY::Top, true},
-     false},
+    RowList(IDC_COLORS_LIST),
 };
 const ControlPlace kSwatch = {0, From::Left, 3, From::Left, 78, 24, 23};
 

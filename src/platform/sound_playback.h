@@ -13,6 +13,9 @@ namespace cv2 {
 // could not play it (no library, no sound output, not a wave file).
 bool PlaySoundFile(const std::wstring& text);
 
+// True when the platform's playback library and its sound call were found.
+bool HasSoundPlayback();
+
 // The number of sound output devices the platform has; 0 without the library.
 unsigned SoundOutputDevices();
 

@@ -40,6 +40,10 @@ bool PlaySoundFile(const std::wstring& text) {
     return play && play(text.c_str(), nullptr, kSoundFileName | kSoundSync | kSoundNoDefault);
 }
 
+bool HasSoundPlayback() {
+    return SoundProc<PlaySoundProc>("PlaySoundW") != nullptr;
+}
+
 unsigned SoundOutputDevices() {
     const auto count = SoundProc<DeviceCountProc>("waveOutGetNumDevs");
     return count ? count() : 0;

@@ -184,7 +184,12 @@ TEST_F(SoundPlayback, PlayOnANonWaveFileReturnsWithoutHangingTheEditor) {
     EXPECT_FALSE(PlaySoundFile(dir.File(L"not-a-wave.wav")));
 }
 
+TEST_F(SoundPlayback, ThePlaybackCallIsFoundAtRunTime) {
+    EXPECT_TRUE(HasSoundPlayback());
+}
+
 TEST_F(SoundPlayback, AShortWaveFilePlaysToItsEnd) {
+    ASSERT_TRUE(HasSoundPlayback());
     if (SoundOutputDevices() == 0)
         GTEST_SKIP() << "this machine has no sound output device, so nothing can be played; "
                         "the wave file and the call were not tried";

@@ -11,18 +11,19 @@
 namespace cv2 {
 namespace {
 
-// Places inside the page's area: the event's name, its path with "..." and ">" beside it, the
-// list of events filling the rest.
+// Places inside the page's area: the event's name, its path with "..." and ">" at its right
+// end (where a 240-pixel screen has them at 188 and 214, and wider screens give the path more
+// room), the list of events filling the rest.
 const OwnControl kControls[] = {
     RowNameLabel(IDC_SOUNDS_NAME),
     {{L"EDIT", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP, 0, StringId(0), IDC_SOUNDS_PATH},
-     {IDC_SOUNDS_PATH, From::Left, 3, From::Left, 185, 25, 20},
+     {IDC_SOUNDS_PATH, From::Left, 3, From::Right, -55, 25, 20},
      false},
     {{L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, StringId(0), IDC_SOUNDS_BROWSE},
-     {IDC_SOUNDS_BROWSE, From::Left, 188, From::Left, 211, 24, 22},
+     {IDC_SOUNDS_BROWSE, From::Right, -52, From::Right, -29, 24, 22},
      false},
     {{L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, StringId(0), IDC_SOUNDS_PLAY},
-     {IDC_SOUNDS_PLAY, From::Left, 214, From::Left, 237, 24, 22},
+     {IDC_SOUNDS_PLAY, From::Right, -26, From::Right, -3, 24, 22},
      false},
     RowList(IDC_SOUNDS_LIST),
 };

@@ -67,7 +67,7 @@ const ControlPlace kImagePlaces[] = {
 };
 const int kImageBold[] = {IDC_MARGINS_HEADING};
 
-const FieldsDialogSpec kImagesDialog = {
+const FieldsDialogTable kImagesDialog = {
     IDD_APP_BUTTON_IMAGES,
     IDS_BUTTON_IMAGES,
     kImageFields,
@@ -104,7 +104,7 @@ const ControlPlace kNotifyPlaces[] = {
     BrowsePlace(IDC_ROW_PRESSED_BROWSE, 75),
 };
 
-const FieldsDialogSpec kNotifyDialog = {
+const FieldsDialogTable kNotifyDialog = {
     IDD_NOTIFICATION, IDS_NOTIFICATIONS,
     kNotifyFields,    sizeof kNotifyFields / sizeof kNotifyFields[0],
     kNotifyTexts,     sizeof kNotifyTexts / sizeof kNotifyTexts[0],

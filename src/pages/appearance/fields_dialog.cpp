@@ -8,7 +8,7 @@ namespace cv2 {
 namespace {
 
 struct FieldsDialog {
-    const FieldsDialogSpec* spec;
+    const FieldsDialogTable* table;
     std::vector<std::wstring>* values;
 };
 
@@ -16,26 +16,26 @@ INT_PTR OnInitDialog(HWND dlg, const FieldsDialog& self) {
     // Without the full-screen set-up the dialog opens bare: no texts and empty fields.
     if (!InitFullScreenDialog(dlg))
         return TRUE;
-    const FieldsDialogSpec& spec = *self.spec;
-    SetWindowTextW(dlg, Localized(spec.title));
-    SetDialogFonts(dlg, spec.boldIds, spec.boldCount);
-    SetControlTexts(dlg, spec.texts, spec.textCount);
-    for (size_t i = 0; i < spec.fieldCount; ++i) {
-        const DialogField& field = spec.fields[i];
+    const FieldsDialogTable& table = *self.table;
+    SetWindowTextW(dlg, Localized(table.title));
+    SetDialogFonts(dlg, table.boldIds, table.boldCount);
+    SetControlTexts(dlg, table.texts, table.textCount);
+    for (size_t i = 0; i < table.fieldCount; ++i) {
+        const DialogField& field = table.fields[i];
         SendDlgItemMessageW(dlg, field.edit, EM_LIMITTEXT, static_cast<WPARAM>(field.maxChars), 0);
         if (i < self.values->size())
             SetDlgItemTextW(dlg, field.edit, (*self.values)[i].c_str());
     }
-    PlaceControls(dlg, spec.places, spec.placeCount);
+    PlaceControls(dlg, table.places, table.placeCount);
     return TRUE;
 }
 
 void OnOk(HWND dlg, const FieldsDialog& self) {
-    const FieldsDialogSpec& spec = *self.spec;
-    self.values->resize(spec.fieldCount);
-    for (size_t i = 0; i < spec.fieldCount; ++i)
+    const FieldsDialogTable& table = *self.table;
+    self.values->resize(table.fieldCount);
+    for (size_t i = 0; i < table.fieldCount; ++i)
         (*self.values)[i] =
-            TextOfWindow(GetDlgItem(dlg, spec.fields[i].edit), spec.fields[i].maxChars);
+            TextOfWindow(GetDlgItem(dlg, table.fields[i].edit), table.fields[i].maxChars);
     EndDialog(dlg, IDOK);
 }
 
@@ -48,8 +48,8 @@ void OnClick(HWND dlg, const FieldsDialog& self, int id) {
         EndDialog(dlg, IDCANCEL);
         return;
     }
-    for (size_t i = 0; i < self.spec->fieldCount; ++i) {
-        const DialogField& field = self.spec->fields[i];
+    for (size_t i = 0; i < self.table->fieldCount; ++i) {
+        const DialogField& field = self.table->fields[i];
         std::wstring path;
         if (field.browse == id && BrowseGraphicsFile(dlg, path))
             SetDlgItemTextW(dlg, field.edit, path.c_str());
@@ -68,7 +68,7 @@ INT_PTR CALLBACK FieldsProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM lParam) {
             OnClick(dlg, *self, LOWORD(wParam));
         return TRUE;
     case WM_SIZE:
-        PlaceControls(dlg, self->spec->places, self->spec->placeCount);
+        PlaceControls(dlg, self->table->places, self->table->placeCount);
         return TRUE;
     case WM_CTLCOLORDLG:
     case WM_CTLCOLORSTATIC:
@@ -79,10 +79,10 @@ INT_PTR CALLBACK FieldsProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM lParam) {
 
 } // namespace
 
-bool EditFields(const FieldsDialogSpec& spec, std::vector<std::wstring>& values, HWND parent) {
+bool EditFields(const FieldsDialogTable& table, std::vector<std::wstring>& values, HWND parent) {
     std::vector<std::wstring> copy = values;
-    FieldsDialog self = {&spec, &copy};
-    const DialogTemplates templates = {spec.templateId, spec.templateId, 0};
+    FieldsDialog self = {&table, &copy};
+    const DialogTemplates templates = {table.templateId, table.templateId, 0};
     if (RunDialog(parent, templates, FieldsProc, reinterpret_cast<LPARAM>(&self)) != IDOK)
         return false;
     values = copy;

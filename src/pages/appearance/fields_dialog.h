@@ -19,7 +19,7 @@ struct DialogField {
     int maxChars;
 };
 
-struct FieldsDialogSpec {
+struct FieldsDialogTable {
     WORD templateId;
     StringId title;
     const DialogField* fields;
@@ -35,6 +35,6 @@ struct FieldsDialogSpec {
 // Opens the dialog with `values` (one per field, in table order) in its boxes. On OK returns
 // true with `values` holding what the boxes hold, each cut to its field's length; on Cancel
 // `values` is left alone.
-bool EditFields(const FieldsDialogSpec& spec, std::vector<std::wstring>& values, HWND parent);
+bool EditFields(const FieldsDialogTable& table, std::vector<std::wstring>& values, HWND parent);
 
 } // namespace cv2

@@ -1,5 +1,8 @@
 #include <new>
 
+#include "pages/appearance/editor_buttons_page.h"
+#include "pages/appearance/list_pages.h"
+#include "pages/appearance/notifications_page.h"
 #include "themes/import_theme_page.h"
 #include "themes/theme_editor.h"
 
@@ -21,12 +24,17 @@ std::vector<SettingsPage*> EditorPages() {
     // "Taskbar Buttons"
     // "Volume Bubble"
     // "Application Buttons"
+    pages.push_back(NewAppButtonsPage());
     // "Checkbox/Radio Buttons"
     // "Taskbar Fonts"
+    pages.push_back(NewTaskbarFontsPage());
     // "Start Menu Skin"
     // "Sound Events"
+    pages.push_back(NewSoundEventsPage());
     // "Notifications"
+    pages.push_back(NewNotificationsPage());
     // "System Colors"
+    pages.push_back(NewSystemColorsPage());
     return pages;
 }
 

@@ -27,8 +27,8 @@ std::string SamplesFolder() {
     return std::string(dir ? dir : ".") + "\\";
 }
 
-const Keys kBackground = {"Portrait",   "Landscape",   "Mode",           "Solid Color",
-                          "Left Color", "Right Color", "Use Theme Colors"};
+const Keys kBackground = {"Portrait",    "Landscape",       "Mode", "Solid Color", "Left Color",
+                          "Right Color", "Use Theme Colors"};
 const Keys kFont = {"Name", "Size", "Color", "Shadow", "Style"};
 
 Keys Join(Keys a, const Keys& b) {
@@ -37,11 +37,23 @@ Keys Join(Keys a, const Keys& b) {
 }
 
 Keys ButtonImageKeys() {
-    const char* const stems[] = {"Start Menu", "Close",   "OK",         "Notify",
-                                 "Volume",     "Mute",    "Vibrate",    "Battery/Memory",
-                                 "Home",       "Menu",    "Custom1",    "Custom2",
-                                 "Connection", "Disconnect", "Signal Strength",
-                                 "Signal Connected", "SIP"};
+    const char* const stems[] = {"Start Menu",
+                                 "Close",
+                                 "OK",
+                                 "Notify",
+                                 "Volume",
+                                 "Mute",
+                                 "Vibrate",
+                                 "Battery/Memory",
+                                 "Home",
+                                 "Menu",
+                                 "Custom1",
+                                 "Custom2",
+                                 "Connection",
+                                 "Disconnect",
+                                 "Signal Strength",
+                                 "Signal Connected",
+                                 "SIP"};
     Keys keys;
     for (const char* stem : stems) {
         keys.push_back(std::string(stem) + " Normal");
@@ -61,35 +73,33 @@ std::vector<SectionKeys> PanelSections() {
     return {
         {"Topbar", kBackground},
         {"Today Menubar", Join(Join(kBackground, {"Display New Text"}), kFont)},
-        {"Menubar", Join(Join(kBackground, {"Pressed Color", "Normal", "Pressed", "Disabled",
-                                            "Left", "Right"}),
+        {"Menubar", Join(Join(kBackground,
+                              {"Pressed Color", "Normal", "Pressed", "Disabled", "Left", "Right"}),
                          kFont)},
         {"SoftKey", Join(kBackground, {"Left Button", "Right Button", "Left Pressed",
                                        "Right Pressed", "Left Disabled", "Right Disabled"})},
         {"Button Images", ButtonImageKeys()},
         {"Volume Bubble", {"Image"}},
         {"Buttons", {"Checkbox", "Radiobutton"}},
-        {"Start Menu Skin",
-         Join({"Start Menu Picture", "Start Menu Picture 2", "Program Group", "Settings Group",
-               "Find Icon", "Help Icon", "Submenu Arrow", "Left Margin", "Right Margin",
-               "Sublevel Left Margin", "Sublevel Right Margin", "Use Colors", "BKColor",
-               "HighColor"},
-              kFont)},
+        {"Start Menu Skin", Join({"Start Menu Picture", "Start Menu Picture 2", "Program Group",
+                                  "Settings Group", "Find Icon", "Help Icon", "Submenu Arrow",
+                                  "Left Margin", "Right Margin", "Sublevel Left Margin",
+                                  "Sublevel Right Margin", "Use Colors", "BKColor", "HighColor"},
+                                 kFont)},
     };
 }
 
 // The editor's page titles of these pages, as the page menu lists them.
 const wchar_t* const kPanelTitles[] = {
-    L"Taskbar Background", L"Today Menubar",          L"Application Menubar", L"SoftKeys",
-    L"Taskbar Buttons",    L"Volume Bubble",          L"Checkbox/Radio Buttons",
-    L"Start Menu Skin",
+    L"Taskbar Background", L"Today Menubar", L"Application Menubar",    L"SoftKeys",
+    L"Taskbar Buttons",    L"Volume Bubble", L"Checkbox/Radio Buttons", L"Start Menu Skin",
 };
 
 class PanelPagesE2E : public DeviceFixture {
   protected:
     void Start(const std::string& appearance) {
-        WriteText(L"config.ini", "[Settings]\nTheme File=" + Narrow(File(L"config.ini")) + "\n" +
-                                     appearance);
+        WriteText(L"config.ini",
+                  "[Settings]\nTheme File=" + Narrow(File(L"config.ini")) + "\n" + appearance);
         ASSERT_TRUE(StartEditor());
         SendMessageW(m_main, WM_NULL, 0, 0);
         ASSERT_TRUE(WaitFor([&] {
@@ -160,6 +170,9 @@ class PanelPagesE2E : public DeviceFixture {
                         mine.push_back(k);
                 keys = mine;
             }
+            // Buttons of registered plug-ins follow the built-in ones.
+            if (std::string(s.section) == "Button Images" && keys.size() > s.keys.size())
+                keys.resize(s.keys.size());
             EXPECT_EQ(keys, s.keys) << s.section;
         }
     }

@@ -48,8 +48,8 @@ IniDocument Resaved(const SettingSection& section, const std::string& text) {
 }
 
 const std::vector<std::wstring> kBackgroundKeys = {
-    L"Portrait",   L"Landscape",   L"Mode",           L"Solid Color",
-    L"Left Color", L"Right Color", L"Use Theme Colors",
+    L"Portrait",    L"Landscape",        L"Mode", L"Solid Color", L"Left Color",
+    L"Right Color", L"Use Theme Colors",
 };
 const std::vector<std::wstring> kFontKeys = {L"Name", L"Size", L"Color", L"Shadow", L"Style"};
 
@@ -78,8 +78,8 @@ TEST(BarBackgroundValues, ApplicationMenubarWritesButtonKeysThenItsFont) {
 
 TEST(BarBackgroundValues, SoftKeysWritesItsSixImagesAfterTheBackground) {
     const auto expected =
-        Joined(kBackgroundKeys, {L"Left Button", L"Right Button", L"Left Pressed",
-                                 L"Right Pressed", L"Left Disabled", L"Right Disabled"});
+        Joined(kBackgroundKeys, {L"Left Button", L"Right Button", L"Left Pressed", L"Right Pressed",
+                                 L"Left Disabled", L"Right Disabled"});
     EXPECT_EQ(KeysOf(Resaved(kSoftKeySection, ""), L"SoftKey"), expected);
 }
 
@@ -174,24 +174,23 @@ TEST(BarBackgroundValues, SoftKeyRowsFollowTheStoredOrder) {
 }
 
 TEST(StartMenuSkinValues, WritesEveryKeyInTheDocumentedOrder) {
-    const std::vector<std::wstring> expected = Joined(
-        {L"Start Menu Picture", L"Start Menu Picture 2", L"Program Group", L"Settings Group",
-         L"Find Icon", L"Help Icon", L"Submenu Arrow", L"Left Margin", L"Right Margin",
-         L"Sublevel Left Margin", L"Sublevel Right Margin", L"Use Colors", L"BKColor",
-         L"HighColor"},
-        kFontKeys);
+    const std::vector<std::wstring> expected =
+        Joined({L"Start Menu Picture", L"Start Menu Picture 2", L"Program Group", L"Settings Group",
+                L"Find Icon", L"Help Icon", L"Submenu Arrow", L"Left Margin", L"Right Margin",
+                L"Sublevel Left Margin", L"Sublevel Right Margin", L"Use Colors", L"BKColor",
+                L"HighColor"},
+               kFontKeys);
     EXPECT_EQ(KeysOf(Resaved(kStartMenuSkinSection, ""), L"Start Menu Skin"), expected);
 }
 
 TEST(StartMenuSkinValues, ThemeWithoutTheSectionSavesUseColorsFalseAndZeroMargins) {
     const IniDocument out = Resaved(kStartMenuSkinSection, "");
     EXPECT_EQ(out.GetString(L"Start Menu Skin", L"Use Colors", L"?"), L"FALSE");
-    for (const wchar_t* key : {L"Left Margin", L"Right Margin", L"Sublevel Left Margin",
-                               L"Sublevel Right Margin"})
+    for (const wchar_t* key :
+         {L"Left Margin", L"Right Margin", L"Sublevel Left Margin", L"Sublevel Right Margin"})
         EXPECT_EQ(out.GetString(L"Start Menu Skin", key, L"?"), L"0") << key;
     EXPECT_EQ(out.GetString(L"Start Menu Skin", L"BKColor", L"?"), std::to_wstring(0x00010004));
-    EXPECT_EQ(out.GetString(L"Start Menu Skin", L"HighColor", L"?"),
-              std::to_wstring(0x0001000D));
+    EXPECT_EQ(out.GetString(L"Start Menu Skin", L"HighColor", L"?"), std::to_wstring(0x0001000D));
 }
 
 TEST(StartMenuSkinValues, MarginsThatAreNotNumbersReadAsZero) {
@@ -234,10 +233,23 @@ TEST(StartMenuLayout, SquareScreensOpenTheSquareLayout) {
 
 TEST(TaskbarButtonsValues, KeyStemsAreKeptAsGivenNotAsShown) {
     const std::vector<std::wstring> stems = {
-        L"Start Menu", L"Close",      L"OK",         L"Notify",          L"Volume",
-        L"Mute",       L"Vibrate",    L"Battery/Memory", L"Home",        L"Menu",
-        L"Custom1",    L"Custom2",    L"Connection", L"Disconnect",      L"Signal Strength",
-        L"Signal Connected", L"SIP",
+        L"Start Menu",
+        L"Close",
+        L"OK",
+        L"Notify",
+        L"Volume",
+        L"Mute",
+        L"Vibrate",
+        L"Battery/Memory",
+        L"Home",
+        L"Menu",
+        L"Custom1",
+        L"Custom2",
+        L"Connection",
+        L"Disconnect",
+        L"Signal Strength",
+        L"Signal Connected",
+        L"SIP",
     };
     ASSERT_EQ(stems.size(), kBuiltInButtonCount);
     const SettingSection& s = ButtonImagesSection();

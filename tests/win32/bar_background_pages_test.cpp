@@ -58,16 +58,20 @@ TEST_F(BarBackgroundPages, PathTypedIntoThePanelIsSavedWhileThePageIsCurrent) {
 }
 
 TEST_F(BarBackgroundPages, EachPageShowsItsOwnPathsInThePanel) {
-    doc = cv2test::ParsedDoc("[Topbar]\r\nPortrait=\\top.png\r\n[SoftKey]\r\nPortrait=\\soft.png\r\n");
+    doc = cv2test::ParsedDoc(
+        "[Topbar]\r\nPortrait=\\top.png\r\n[SoftKey]\r\nPortrait=\\soft.png\r\n");
     std::wstring top, soft, back;
-    RunEditor(cv2test::kTaskbarBackgroundPage, [&](HWND dlg) {
-        top = cv2test::DlgText(dlg, IDC_PANEL_FIRST_PATH);
-        cv2test::TypeInto(dlg, IDC_PANEL_FIRST_PATH, L"\\changed.png");
-        Select(cv2test::kSoftKeysPage);
-        soft = cv2test::DlgText(dlg, IDC_PANEL_FIRST_PATH);
-        Select(cv2test::kTaskbarBackgroundPage);
-        back = cv2test::DlgText(dlg, IDC_PANEL_FIRST_PATH);
-    }, IDCANCEL);
+    RunEditor(
+        cv2test::kTaskbarBackgroundPage,
+        [&](HWND dlg) {
+            top = cv2test::DlgText(dlg, IDC_PANEL_FIRST_PATH);
+            cv2test::TypeInto(dlg, IDC_PANEL_FIRST_PATH, L"\\changed.png");
+            Select(cv2test::kSoftKeysPage);
+            soft = cv2test::DlgText(dlg, IDC_PANEL_FIRST_PATH);
+            Select(cv2test::kTaskbarBackgroundPage);
+            back = cv2test::DlgText(dlg, IDC_PANEL_FIRST_PATH);
+        },
+        IDCANCEL);
     EXPECT_EQ(top, L"\\top.png");
     EXPECT_EQ(soft, L"\\soft.png");
     EXPECT_EQ(back, L"\\changed.png");
@@ -83,15 +87,18 @@ TEST_F(BarBackgroundPages, PathLongerThan259CharactersIsCut) {
 TEST_F(BarBackgroundPages, BackgroundPagesShowRowsAndSettingsAndHideListAndCheckBox) {
     bool rows = false, settings = false, list = true, check = true;
     std::wstring first, second;
-    RunEditor(cv2test::kTaskbarButtonsPage, [&](HWND dlg) {
-        Select(cv2test::kApplicationMenubarPage);
-        rows = Shown(dlg, IDC_PANEL_FIRST_PREVIEW) && Shown(dlg, IDC_PANEL_SECOND_BROWSE);
-        settings = Shown(dlg, IDC_PANEL_SETTINGS);
-        list = Shown(dlg, IDC_PANEL_LIST);
-        check = Shown(dlg, IDC_PANEL_CUSTOM_COLORS);
-        first = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
-        second = cv2test::DlgText(dlg, IDC_PANEL_SECOND_LABEL);
-    }, IDCANCEL);
+    RunEditor(
+        cv2test::kTaskbarButtonsPage,
+        [&](HWND dlg) {
+            Select(cv2test::kApplicationMenubarPage);
+            rows = Shown(dlg, IDC_PANEL_FIRST_PREVIEW) && Shown(dlg, IDC_PANEL_SECOND_BROWSE);
+            settings = Shown(dlg, IDC_PANEL_SETTINGS);
+            list = Shown(dlg, IDC_PANEL_LIST);
+            check = Shown(dlg, IDC_PANEL_CUSTOM_COLORS);
+            first = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
+            second = cv2test::DlgText(dlg, IDC_PANEL_SECOND_LABEL);
+        },
+        IDCANCEL);
     EXPECT_TRUE(rows);
     EXPECT_TRUE(settings);
     EXPECT_FALSE(list);
@@ -102,11 +109,14 @@ TEST_F(BarBackgroundPages, BackgroundPagesShowRowsAndSettingsAndHideListAndCheck
 
 TEST_F(BarBackgroundPages, SoftKeysLeavesTheListAndCheckBoxAsTheyWere) {
     bool list = false;
-    RunEditor(cv2test::kTaskbarButtonsPage, [&](HWND dlg) {
-        // Taskbar Buttons showed the list; the soft keys do not hide it.
-        Select(cv2test::kSoftKeysPage);
-        list = Shown(dlg, IDC_PANEL_LIST);
-    }, IDCANCEL);
+    RunEditor(
+        cv2test::kTaskbarButtonsPage,
+        [&](HWND dlg) {
+            // Taskbar Buttons showed the list; the soft keys do not hide it.
+            Select(cv2test::kSoftKeysPage);
+            list = Shown(dlg, IDC_PANEL_LIST);
+        },
+        IDCANCEL);
     EXPECT_TRUE(list);
 }
 
@@ -114,15 +124,16 @@ TEST_F(BarBackgroundPages, SettingsOpensTheBackgroundDialogOnThePagesFill) {
     doc = cv2test::ParsedDoc("[Topbar]\r\nMode=gradient\r\n");
     int shownMode = -1;
     RunEditor(cv2test::kTaskbarBackgroundPage, [&](HWND dlg) {
-        OpenSettings(dlg,
-                     [&](HWND background) {
-                         shownMode = static_cast<int>(SendDlgItemMessageW(
-                             background, IDC_BACKGROUND_MODE, CB_GETCURSEL, 0, 0));
-                         SendDlgItemMessageW(background, IDC_BACKGROUND_MODE, CB_SETCURSEL, 4, 0);
-                         SendMessageW(background, WM_COMMAND,
-                                      MAKEWPARAM(IDC_BACKGROUND_MODE, CBN_SELCHANGE), 0);
-                     },
-                     IDOK);
+        OpenSettings(
+            dlg,
+            [&](HWND background) {
+                shownMode = static_cast<int>(
+                    SendDlgItemMessageW(background, IDC_BACKGROUND_MODE, CB_GETCURSEL, 0, 0));
+                SendDlgItemMessageW(background, IDC_BACKGROUND_MODE, CB_SETCURSEL, 4, 0);
+                SendMessageW(background, WM_COMMAND, MAKEWPARAM(IDC_BACKGROUND_MODE, CBN_SELCHANGE),
+                             0);
+            },
+            IDOK);
     });
     EXPECT_EQ(shownMode, 3);
     EXPECT_EQ(doc.GetString(L"Topbar", L"Mode", L"?"), L"none");
@@ -130,26 +141,30 @@ TEST_F(BarBackgroundPages, SettingsOpensTheBackgroundDialogOnThePagesFill) {
 
 TEST_F(BarBackgroundPages, SettingsOfAPageThatIsNotCurrentDoesNothing) {
     bool taken = true;
-    RunEditor(cv2test::kTaskbarBackgroundPage, [&](HWND dlg) {
-        // Today Menubar is not the current page: it declines the click.
-        SettingsPage* today = editor->Host().Page(cv2test::kTodayMenubarPage);
-        taken = today->OnCommand(MAKEWPARAM(IDC_PANEL_SETTINGS, BN_CLICKED),
-                                 reinterpret_cast<LPARAM>(GetDlgItem(dlg, IDC_PANEL_SETTINGS)));
-    }, IDCANCEL);
+    RunEditor(
+        cv2test::kTaskbarBackgroundPage,
+        [&](HWND dlg) {
+            // Today Menubar is not the current page: it declines the click.
+            SettingsPage* today = editor->Host().Page(cv2test::kTodayMenubarPage);
+            taken = today->OnCommand(MAKEWPARAM(IDC_PANEL_SETTINGS, BN_CLICKED),
+                                     reinterpret_cast<LPARAM>(GetDlgItem(dlg, IDC_PANEL_SETTINGS)));
+        },
+        IDCANCEL);
     EXPECT_FALSE(taken);
 }
 
 TEST_F(BarBackgroundPages, CancellingTheTodayMenubarDialogKeepsFontAndCheckBox) {
     doc = cv2test::ParsedDoc("[Today Menubar]\r\nDisplay New Text=TRUE\r\nStyle=bold\r\n");
     RunEditor(cv2test::kTodayMenubarPage, [&](HWND dlg) {
-        OpenSettings(dlg,
-                     [](HWND today) {
-                         Tick(today, IDC_TODAY_DISPLAY_NEW);
-                         DialogDriver::OnNextDialog(
-                             [](HWND picker) { Tick(picker, IDC_FONT_ITALIC); }, IDOK);
-                         DialogDriver::Click(today, IDC_TODAY_FONT);
-                     },
-                     IDCANCEL);
+        OpenSettings(
+            dlg,
+            [](HWND today) {
+                Tick(today, IDC_TODAY_DISPLAY_NEW);
+                DialogDriver::OnNextDialog([](HWND picker) { Tick(picker, IDC_FONT_ITALIC); },
+                                           IDOK);
+                DialogDriver::Click(today, IDC_TODAY_FONT);
+            },
+            IDCANCEL);
     });
     EXPECT_EQ(doc.GetString(L"Today Menubar", L"Display New Text", L"?"), L"TRUE");
     EXPECT_EQ(doc.GetString(L"Today Menubar", L"Style", L"?"), L"bold");
@@ -159,15 +174,16 @@ TEST_F(BarBackgroundPages, OkInTheTodayMenubarDialogTakesFontAndCheckBox) {
     doc = cv2test::ParsedDoc("[Today Menubar]\r\nDisplay New Text=TRUE\r\nStyle=bold\r\n");
     bool checked = false;
     RunEditor(cv2test::kTodayMenubarPage, [&](HWND dlg) {
-        OpenSettings(dlg,
-                     [&](HWND today) {
-                         checked = IsDlgButtonChecked(today, IDC_TODAY_DISPLAY_NEW) == BST_CHECKED;
-                         Tick(today, IDC_TODAY_DISPLAY_NEW);
-                         DialogDriver::OnNextDialog(
-                             [](HWND picker) { Tick(picker, IDC_FONT_ITALIC); }, IDOK);
-                         DialogDriver::Click(today, IDC_TODAY_FONT);
-                     },
-                     IDOK);
+        OpenSettings(
+            dlg,
+            [&](HWND today) {
+                checked = IsDlgButtonChecked(today, IDC_TODAY_DISPLAY_NEW) == BST_CHECKED;
+                Tick(today, IDC_TODAY_DISPLAY_NEW);
+                DialogDriver::OnNextDialog([](HWND picker) { Tick(picker, IDC_FONT_ITALIC); },
+                                           IDOK);
+                DialogDriver::Click(today, IDC_TODAY_FONT);
+            },
+            IDOK);
     });
     EXPECT_TRUE(checked);
     EXPECT_EQ(doc.GetString(L"Today Menubar", L"Display New Text", L"?"), L"FALSE");
@@ -185,13 +201,14 @@ TEST_F(BarBackgroundPages, MenubarDialogGivesItsPathsAndMarginsBack) {
     doc = cv2test::ParsedDoc("[Menubar]\r\nNormal=\\n.png\r\nLeft=5\r\n");
     std::wstring shown;
     RunEditor(cv2test::kApplicationMenubarPage, [&](HWND dlg) {
-        OpenSettings(dlg,
-                     [&](HWND images) {
-                         shown = cv2test::DlgText(images, IDC_BUTTONS_NORMAL);
-                         SetDlgItemTextW(images, IDC_BUTTONS_DISABLED, L"\\d.png");
-                         SetDlgItemTextW(images, IDC_BUTTONS_RIGHT, L"9");
-                     },
-                     IDOK);
+        OpenSettings(
+            dlg,
+            [&](HWND images) {
+                shown = cv2test::DlgText(images, IDC_BUTTONS_NORMAL);
+                SetDlgItemTextW(images, IDC_BUTTONS_DISABLED, L"\\d.png");
+                SetDlgItemTextW(images, IDC_BUTTONS_RIGHT, L"9");
+            },
+            IDOK);
     });
     EXPECT_EQ(shown, L"\\n.png");
     EXPECT_EQ(doc.GetString(L"Menubar", L"Disabled", L"?"), L"\\d.png");
@@ -203,17 +220,17 @@ TEST_F(BarBackgroundPages, SoftKeyDialogShowsEachKeysPicturesAndKeepsBoth) {
     doc = cv2test::ParsedDoc("[SoftKey]\r\nLeft Button=\\lb.png\r\nRight Pressed=\\rp.png\r\n");
     std::wstring left, right;
     RunEditor(cv2test::kSoftKeysPage, [&](HWND dlg) {
-        OpenSettings(dlg,
-                     [&](HWND keys) {
-                         left = cv2test::DlgText(keys, IDC_SOFTKEY_NORMAL);
-                         SetDlgItemTextW(keys, IDC_SOFTKEY_DISABLED, L"\\ld.png");
-                         SendDlgItemMessageW(keys, IDC_SOFTKEY_KEY, CB_SETCURSEL, 1, 0);
-                         SendMessageW(keys, WM_COMMAND, MAKEWPARAM(IDC_SOFTKEY_KEY, CBN_SELCHANGE),
-                                      0);
-                         right = cv2test::DlgText(keys, IDC_SOFTKEY_PRESSED);
-                         SetDlgItemTextW(keys, IDC_SOFTKEY_NORMAL, L"\\rb.png");
-                     },
-                     IDOK);
+        OpenSettings(
+            dlg,
+            [&](HWND keys) {
+                left = cv2test::DlgText(keys, IDC_SOFTKEY_NORMAL);
+                SetDlgItemTextW(keys, IDC_SOFTKEY_DISABLED, L"\\ld.png");
+                SendDlgItemMessageW(keys, IDC_SOFTKEY_KEY, CB_SETCURSEL, 1, 0);
+                SendMessageW(keys, WM_COMMAND, MAKEWPARAM(IDC_SOFTKEY_KEY, CBN_SELCHANGE), 0);
+                right = cv2test::DlgText(keys, IDC_SOFTKEY_PRESSED);
+                SetDlgItemTextW(keys, IDC_SOFTKEY_NORMAL, L"\\rb.png");
+            },
+            IDOK);
     });
     EXPECT_EQ(left, L"\\lb.png");
     EXPECT_EQ(right, L"\\rp.png");
@@ -225,9 +242,9 @@ TEST_F(BarBackgroundPages, SoftKeyDialogShowsEachKeysPicturesAndKeepsBoth) {
 TEST_F(BarBackgroundPages, CancelledSoftKeyDialogChangesNoPicture) {
     doc = cv2test::ParsedDoc("[SoftKey]\r\nLeft Button=\\lb.png\r\n");
     RunEditor(cv2test::kSoftKeysPage, [&](HWND dlg) {
-        OpenSettings(dlg,
-                     [&](HWND keys) { SetDlgItemTextW(keys, IDC_SOFTKEY_NORMAL, L"\\x.png"); },
-                     IDCANCEL);
+        OpenSettings(
+            dlg, [&](HWND keys) { SetDlgItemTextW(keys, IDC_SOFTKEY_NORMAL, L"\\x.png"); },
+            IDCANCEL);
     });
     EXPECT_EQ(doc.GetString(L"SoftKey", L"Left Button", L"?"), L"\\lb.png");
 }

@@ -49,9 +49,9 @@ class PanelDefaults : public cv2test::PanelPagesTest {
 
 TEST_F(PanelDefaults, OkOnAnEmptyDocumentWritesTheDocumentedDefaults) {
     // The file names the system colours of this machine's standard scheme.
-    ASSERT_EQ(DeviceSysColor(COLOR_ACTIVECAPTION), 13743257u);
-    ASSERT_EQ(DeviceSysColor(COLOR_MENU), 15790320u);
-    ASSERT_EQ(DeviceSysColor(COLOR_HIGHLIGHT), 16750899u);
+    ASSERT_EQ(DeviceSysColor(COLOR_ACTIVECAPTION), 16422450u);
+    ASSERT_EQ(DeviceSysColor(COLOR_MENU), 16777215u);
+    ASSERT_EQ(DeviceSysColor(COLOR_HIGHLIGHT), 16422448u);
     IniDocument expected;
     ASSERT_TRUE(expected.Load(DefaultsFile()));
     EXPECT_TRUE(RunEditor(cv2test::kTaskbarBackgroundPage, [](HWND) {}));

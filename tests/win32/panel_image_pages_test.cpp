@@ -28,14 +28,18 @@ constexpr int kSignalStrengthRow = 14;
 
 TEST_F(PanelImagePages, TaskbarButtonsListsTheSeventeenButtonsInOrder) {
     std::vector<std::wstring> names;
-    RunEditor(cv2test::kTaskbarButtonsPage, [&](HWND dlg) {
-        HWND list = GetDlgItem(dlg, IDC_PANEL_LIST);
-        for (int i = 0; i < 17; ++i) {
-            wchar_t text[64] = {};
-            SendMessageW(list, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-            names.push_back(text);
-        }
-    }, IDCANCEL);
+    RunEditor(
+        cv2test::kTaskbarButtonsPage,
+        [&](HWND dlg) {
+            HWND list = GetDlgItem(dlg, IDC_PANEL_LIST);
+            for (int i = 0; i < 17; ++i) {
+                wchar_t text[64] = {};
+                SendMessageW(list, CB_GETLBTEXT, static_cast<WPARAM>(i),
+                             reinterpret_cast<LPARAM>(text));
+                names.push_back(text);
+            }
+        },
+        IDCANCEL);
     ASSERT_EQ(names.size(), 17u);
     EXPECT_EQ(names[0], L"Start Menu");
     EXPECT_EQ(names[3], L"Notification");
@@ -101,12 +105,15 @@ TEST_F(PanelImagePages, ThemeWithoutButtonImagesSaves34EmptyImagesAndFlagsFalse)
 TEST_F(PanelImagePages, StartMenuSkinShowsItsPicturesWithoutPreviews) {
     bool paths = false, previews = true, settings = false;
     std::wstring first;
-    RunEditor(cv2test::kStartMenuSkinPage, [&](HWND dlg) {
-        paths = Shown(dlg, IDC_PANEL_FIRST_PATH) && Shown(dlg, IDC_PANEL_SECOND_BROWSE);
-        previews = Shown(dlg, IDC_PANEL_FIRST_PREVIEW) || Shown(dlg, IDC_PANEL_SECOND_PREVIEW);
-        settings = Shown(dlg, IDC_PANEL_SETTINGS);
-        first = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
-    }, IDCANCEL);
+    RunEditor(
+        cv2test::kStartMenuSkinPage,
+        [&](HWND dlg) {
+            paths = Shown(dlg, IDC_PANEL_FIRST_PATH) && Shown(dlg, IDC_PANEL_SECOND_BROWSE);
+            previews = Shown(dlg, IDC_PANEL_FIRST_PREVIEW) || Shown(dlg, IDC_PANEL_SECOND_PREVIEW);
+            settings = Shown(dlg, IDC_PANEL_SETTINGS);
+            first = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
+        },
+        IDCANCEL);
     EXPECT_TRUE(paths);
     EXPECT_FALSE(previews);
     EXPECT_TRUE(settings);
@@ -117,18 +124,22 @@ TEST_F(PanelImagePages, DontUseImagesLeavesTheSubmenuArrowRowEnabled) {
     doc = cv2test::ParsedDoc("[Start Menu Skin]\r\nUse Colors=TRUE\r\n");
     bool arrow = false, arrowBrowse = false, program = true, helpBrowse = true, margin = true,
          background = false;
-    RunEditor(cv2test::kStartMenuSkinPage, [&](HWND dlg) {
-        OpenSettings(dlg,
-                     [&](HWND menu) {
-                         arrow = Enabled(menu, IDC_MENU_ARROW);
-                         arrowBrowse = Enabled(menu, IDC_MENU_ARROW_BROWSE);
-                         program = Enabled(menu, IDC_MENU_PROGRAM);
-                         helpBrowse = Enabled(menu, IDC_MENU_HELP_BROWSE);
-                         margin = Enabled(menu, IDC_MENU_SUB_RIGHT);
-                         background = Enabled(menu, IDC_MENU_BACKGROUND);
-                     },
-                     IDCANCEL);
-    }, IDCANCEL);
+    RunEditor(
+        cv2test::kStartMenuSkinPage,
+        [&](HWND dlg) {
+            OpenSettings(
+                dlg,
+                [&](HWND menu) {
+                    arrow = Enabled(menu, IDC_MENU_ARROW);
+                    arrowBrowse = Enabled(menu, IDC_MENU_ARROW_BROWSE);
+                    program = Enabled(menu, IDC_MENU_PROGRAM);
+                    helpBrowse = Enabled(menu, IDC_MENU_HELP_BROWSE);
+                    margin = Enabled(menu, IDC_MENU_SUB_RIGHT);
+                    background = Enabled(menu, IDC_MENU_BACKGROUND);
+                },
+                IDCANCEL);
+        },
+        IDCANCEL);
     EXPECT_TRUE(arrow);
     EXPECT_TRUE(arrowBrowse);
     EXPECT_FALSE(program);
@@ -141,13 +152,14 @@ TEST_F(PanelImagePages, UncheckingDontUseImagesDisablesTheColourButtons) {
     doc = cv2test::ParsedDoc("[Start Menu Skin]\r\nUse Colors=TRUE\r\n");
     bool program = false, highlight = true;
     RunEditor(cv2test::kStartMenuSkinPage, [&](HWND dlg) {
-        OpenSettings(dlg,
-                     [&](HWND menu) {
-                         Tick(menu, IDC_MENU_NO_IMAGES);
-                         program = Enabled(menu, IDC_MENU_PROGRAM);
-                         highlight = Enabled(menu, IDC_MENU_HIGHLIGHT);
-                     },
-                     IDOK);
+        OpenSettings(
+            dlg,
+            [&](HWND menu) {
+                Tick(menu, IDC_MENU_NO_IMAGES);
+                program = Enabled(menu, IDC_MENU_PROGRAM);
+                highlight = Enabled(menu, IDC_MENU_HIGHLIGHT);
+            },
+            IDOK);
     });
     EXPECT_TRUE(program);
     EXPECT_FALSE(highlight);
@@ -159,14 +171,15 @@ TEST_F(PanelImagePages, StartMenuDialogOkTakesIconsAndMarginsButNotThePictures) 
                              "Find Icon=\\find.png\r\n");
     std::wstring find;
     RunEditor(cv2test::kStartMenuSkinPage, [&](HWND dlg) {
-        OpenSettings(dlg,
-                     [&](HWND menu) {
-                         find = cv2test::DlgText(menu, IDC_MENU_FIND);
-                         SetDlgItemTextW(menu, IDC_MENU_ARROW, L"\\arrow.png");
-                         SetDlgItemTextW(menu, IDC_MENU_SUB_LEFT, L"12");
-                         SetDlgItemTextW(menu, IDC_MENU_RIGHT, L"letters");
-                     },
-                     IDOK);
+        OpenSettings(
+            dlg,
+            [&](HWND menu) {
+                find = cv2test::DlgText(menu, IDC_MENU_FIND);
+                SetDlgItemTextW(menu, IDC_MENU_ARROW, L"\\arrow.png");
+                SetDlgItemTextW(menu, IDC_MENU_SUB_LEFT, L"12");
+                SetDlgItemTextW(menu, IDC_MENU_RIGHT, L"letters");
+            },
+            IDOK);
     });
     EXPECT_EQ(find, L"\\find.png");
     EXPECT_EQ(doc.GetString(L"Start Menu Skin", L"Start Menu Picture", L"?"), L"\\pic.png");
@@ -185,15 +198,18 @@ TEST_F(PanelImagePages, ThemeWithoutStartMenuSkinSavesUseColorsFalseAndZeroMargi
 TEST_F(PanelImagePages, CheckRadioShowsBothRowsWithTheirLabelsAndNothingElse) {
     bool rows = false, list = true, settings = true, check = true;
     std::wstring first, second;
-    RunEditor(cv2test::kTaskbarButtonsPage, [&](HWND dlg) {
-        Select(cv2test::kCheckRadioPage);
-        rows = Shown(dlg, IDC_PANEL_FIRST_PREVIEW) && Shown(dlg, IDC_PANEL_SECOND_PATH);
-        list = Shown(dlg, IDC_PANEL_LIST);
-        settings = Shown(dlg, IDC_PANEL_SETTINGS);
-        check = Shown(dlg, IDC_PANEL_CUSTOM_COLORS);
-        first = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
-        second = cv2test::DlgText(dlg, IDC_PANEL_SECOND_LABEL);
-    }, IDCANCEL);
+    RunEditor(
+        cv2test::kTaskbarButtonsPage,
+        [&](HWND dlg) {
+            Select(cv2test::kCheckRadioPage);
+            rows = Shown(dlg, IDC_PANEL_FIRST_PREVIEW) && Shown(dlg, IDC_PANEL_SECOND_PATH);
+            list = Shown(dlg, IDC_PANEL_LIST);
+            settings = Shown(dlg, IDC_PANEL_SETTINGS);
+            check = Shown(dlg, IDC_PANEL_CUSTOM_COLORS);
+            first = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
+            second = cv2test::DlgText(dlg, IDC_PANEL_SECOND_LABEL);
+        },
+        IDCANCEL);
     EXPECT_TRUE(rows);
     EXPECT_FALSE(list);
     EXPECT_FALSE(settings);
@@ -204,9 +220,8 @@ TEST_F(PanelImagePages, CheckRadioShowsBothRowsWithTheirLabelsAndNothingElse) {
 
 TEST_F(PanelImagePages, CheckRadioKeepsTheApplicationButtonKeysOfButtons) {
     doc = cv2test::ParsedDoc("[Buttons]\r\nNormal=\\b.png\r\nCheckbox=\\old.png\r\n");
-    RunEditor(cv2test::kCheckRadioPage, [](HWND dlg) {
-        cv2test::TypeInto(dlg, IDC_PANEL_SECOND_PATH, L"\\radio.png");
-    });
+    RunEditor(cv2test::kCheckRadioPage,
+              [](HWND dlg) { cv2test::TypeInto(dlg, IDC_PANEL_SECOND_PATH, L"\\radio.png"); });
     EXPECT_EQ(doc.GetString(L"Buttons", L"Normal", L"?"), L"\\b.png");
     EXPECT_EQ(doc.GetString(L"Buttons", L"Checkbox", L"?"), L"\\old.png");
     EXPECT_EQ(doc.GetString(L"Buttons", L"Radiobutton", L"?"), L"\\radio.png");
@@ -221,16 +236,19 @@ TEST_F(PanelImagePages, ThemeWithoutVolumeBubbleSavesAnEmptyImage) {
 TEST_F(PanelImagePages, VolumeBubbleAfterStartMenuSkinKeepsItsLabelAndShowsOneRow) {
     bool firstRow = false, preview = false, secondRow = true, list = true, settings = true;
     std::wstring label;
-    RunEditor(cv2test::kStartMenuSkinPage, [&](HWND dlg) {
-        Select(cv2test::kVolumeBubblePage);
-        label = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
-        firstRow = Shown(dlg, IDC_PANEL_FIRST_PATH) && Shown(dlg, IDC_PANEL_FIRST_BROWSE);
-        preview = Shown(dlg, IDC_PANEL_FIRST_PREVIEW);
-        secondRow = Shown(dlg, IDC_PANEL_SECOND_LABEL) || Shown(dlg, IDC_PANEL_SECOND_PATH) ||
-                    Shown(dlg, IDC_PANEL_SECOND_PREVIEW);
-        list = Shown(dlg, IDC_PANEL_LIST);
-        settings = Shown(dlg, IDC_PANEL_SETTINGS);
-    }, IDCANCEL);
+    RunEditor(
+        cv2test::kStartMenuSkinPage,
+        [&](HWND dlg) {
+            Select(cv2test::kVolumeBubblePage);
+            label = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
+            firstRow = Shown(dlg, IDC_PANEL_FIRST_PATH) && Shown(dlg, IDC_PANEL_FIRST_BROWSE);
+            preview = Shown(dlg, IDC_PANEL_FIRST_PREVIEW);
+            secondRow = Shown(dlg, IDC_PANEL_SECOND_LABEL) || Shown(dlg, IDC_PANEL_SECOND_PATH) ||
+                        Shown(dlg, IDC_PANEL_SECOND_PREVIEW);
+            list = Shown(dlg, IDC_PANEL_LIST);
+            settings = Shown(dlg, IDC_PANEL_SETTINGS);
+        },
+        IDCANCEL);
     EXPECT_EQ(label, L"First Level:");
     EXPECT_TRUE(firstRow);
     EXPECT_TRUE(preview);
@@ -240,8 +258,7 @@ TEST_F(PanelImagePages, VolumeBubbleAfterStartMenuSkinKeepsItsLabelAndShowsOneRo
 }
 
 TEST_F(PanelImagePages, VolumeBubbleSavesThePathTypedIntoTheFirstRow) {
-    RunEditor(cv2test::kVolumeBubblePage, [](HWND dlg) {
-        cv2test::TypeInto(dlg, IDC_PANEL_FIRST_PATH, L"\\bubble.png");
-    });
+    RunEditor(cv2test::kVolumeBubblePage,
+              [](HWND dlg) { cv2test::TypeInto(dlg, IDC_PANEL_FIRST_PATH, L"\\bubble.png"); });
     EXPECT_EQ(doc.GetString(L"Volume Bubble", L"Image", L"?"), L"\\bubble.png");
 }

@@ -54,13 +54,16 @@ class PanelPagesScreens : public cv2test::PanelPagesTest {
             content = cv2test::ScreenHasContent();
         };
         for (const auto* step : {&check, &shoot}) {
-            RunEditor(page, [&](HWND dlg) {
-                if (!settings) {
-                    (*step)(dlg);
-                    return;
-                }
-                OpenSettings(dlg, *step, IDCANCEL);
-            }, IDCANCEL);
+            RunEditor(
+                page,
+                [&](HWND dlg) {
+                    if (!settings) {
+                        (*step)(dlg);
+                        return;
+                    }
+                    OpenSettings(dlg, *step, IDCANCEL);
+                },
+                IDCANCEL);
         }
         EXPECT_TRUE(content);
     }

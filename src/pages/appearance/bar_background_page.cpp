@@ -29,14 +29,26 @@ constexpr unsigned kBarShown = kPanelRows | kPanelSettings;
 constexpr unsigned kBarHidden = kPanelList | kPanelCustomColors;
 
 const BarMember kMembers[] = {
-    {{IDS_TASKBAR_BACKGROUND, nullptr}, &kTopbarSection,
-     {IDS_PORTRAIT_ROW, IDS_LANDSCAPE_ROW, kBarShown, kBarHidden}, BarDialog::Background, false},
-    {{IDS_TODAY_MENUBAR, nullptr}, &kTodayMenubarSection,
-     {IDS_PORTRAIT_ROW, IDS_LANDSCAPE_ROW, kBarShown, kBarHidden}, BarDialog::TodayMenubar, false},
-    {{IDS_APP_MENUBAR, nullptr}, &kMenubarSection,
-     {IDS_PORTRAIT_ROW, IDS_LANDSCAPE_ROW, kBarShown, kBarHidden}, BarDialog::Menubar, false},
-    {{StringId{}, L"SoftKeys"}, &kSoftKeySection,
-     {IDS_PORTRAIT_ROW, IDS_LANDSCAPE_ROW, kBarShown, 0}, BarDialog::SoftKeys, true},
+    {{IDS_TASKBAR_BACKGROUND, nullptr},
+     &kTopbarSection,
+     {IDS_PORTRAIT_ROW, IDS_LANDSCAPE_ROW, kBarShown, kBarHidden},
+     BarDialog::Background,
+     false},
+    {{IDS_TODAY_MENUBAR, nullptr},
+     &kTodayMenubarSection,
+     {IDS_PORTRAIT_ROW, IDS_LANDSCAPE_ROW, kBarShown, kBarHidden},
+     BarDialog::TodayMenubar,
+     false},
+    {{IDS_APP_MENUBAR, nullptr},
+     &kMenubarSection,
+     {IDS_PORTRAIT_ROW, IDS_LANDSCAPE_ROW, kBarShown, kBarHidden},
+     BarDialog::Menubar,
+     false},
+    {{StringId{}, L"SoftKeys"},
+     &kSoftKeySection,
+     {IDS_PORTRAIT_ROW, IDS_LANDSCAPE_ROW, kBarShown, 0},
+     BarDialog::SoftKeys,
+     true},
 };
 
 class BarBackgroundPage : public PanelPage {

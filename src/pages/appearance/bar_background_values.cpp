@@ -10,8 +10,7 @@ namespace {
 // The platform's system colour of active captions.
 constexpr int kActiveCaption = 2;
 
-const wchar_t* const kModeWords[] = {L"scaled", L"tiled", L"color", L"gradient", L"none",
-                                     nullptr};
+const wchar_t* const kModeWords[] = {L"scaled", L"tiled", L"color", L"gradient", L"none", nullptr};
 
 constexpr SettingKey kBackgroundKeys[kBackgroundRowCount] = {
     {L"Portrait", SettingType::Path},
@@ -25,8 +24,8 @@ constexpr SettingKey kBackgroundKeys[kBackgroundRowCount] = {
 
 // A bar section's rows: the background keys, then the section's own.
 template <size_t N>
-constexpr std::array<SettingKey, kBackgroundRowCount + N> WithBackground(
-    const SettingKey (&extra)[N]) {
+constexpr std::array<SettingKey, kBackgroundRowCount + N>
+WithBackground(const SettingKey (&extra)[N]) {
     std::array<SettingKey, kBackgroundRowCount + N> rows{};
     for (size_t i = 0; i < kBackgroundRowCount; ++i)
         rows[i] = kBackgroundKeys[i];

@@ -11,8 +11,8 @@ const wchar_t* TitleText(const PageTitle& title) {
 
 } // namespace
 
-PanelPage::PanelPage(const PageTitle& title, const SettingSection& section,
-                     const PanelView& view, const PanelRows& rows)
+PanelPage::PanelPage(const PageTitle& title, const SettingSection& section, const PanelView& view,
+                     const PanelRows& rows)
     : SettingsPage(TitleText(title)), m_values(section), m_view(view), m_rows(rows) {}
 
 void PanelPage::Show(bool visible) {

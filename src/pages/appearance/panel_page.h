@@ -16,8 +16,8 @@
 namespace cv2 {
 
 // How a page uses the panel when it is shown: the row labels it sets (0 leaves both labels as
-// the page shown before left them), the parts it shows and then the parts it hides (finer parts inside
-// the shown ones, such as the previews or the second row).
+// the page shown before left them), the parts it shows and then the parts it hides (finer parts
+// inside the shown ones, such as the previews or the second row).
 struct PanelView {
     StringId firstLabel;
     StringId secondLabel;

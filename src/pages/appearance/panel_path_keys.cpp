@@ -8,9 +8,9 @@
 namespace cv2 {
 
 std::vector<PathKey> PanelPathKeys() {
-    return PathKeysOf({&kTopbarSection, &kTodayMenubarSection, &kMenubarSection,
-                       &kSoftKeySection, &ButtonImagesSection(), &kVolumeBubbleSection,
-                       &kCheckRadioSection, &kStartMenuSkinSection});
+    return PathKeysOf({&kTopbarSection, &kTodayMenubarSection, &kMenubarSection, &kSoftKeySection,
+                       &ButtonImagesSection(), &kVolumeBubbleSection, &kCheckRadioSection,
+                       &kStartMenuSkinSection});
 }
 
 } // namespace cv2

@@ -1,5 +1,7 @@
 #include "pages/appearance/start_menu_dialog.h"
 
+#include <vector>
+
 #include "ids_appearance_panel.h"
 #include "pages/appearance/panel_page.h"
 #include "store/paths.h"
@@ -52,31 +54,30 @@ const ControlText kTexts[] = {
 };
 const int kHeadings[] = {IDC_MENU_FIRST_MARGINS, IDC_MENU_SUB_MARGINS};
 
-// An icon row's three controls at `top`: label, path box, browse button, the label `labelWidth`
-// wide and the row ending at `right` from `rightFrom`.
-#define ICON_ROW(n, top, labelWidth, rightFrom, right)                                           \
-    {IDC_MENU_##n##_LABEL, From::Left, 4, From::Left, 4 + (labelWidth), (top) + 3, 16},          \
-        {IDC_MENU_##n, From::Left, 6 + (labelWidth), rightFrom, (right)-27, top, 20},            \
-        {IDC_MENU_##n##_BROWSE, rightFrom, (right)-24, rightFrom, right, top, 20}
-
-// A margin pair at `top` between `from`+`left` and `from`+`right`: "Left:" box "Right:" box.
-#define MARGIN_ROW(l, r, from, left, top)                                                         \
-    {IDC_MENU_##l##_LABEL, from, left, from, (left) + 30, (top) + 3, 16},                        \
-        {IDC_MENU_##l, from, (left) + 30, from, (left) + 62, top, 20},                          \
-        {IDC_MENU_##r##_LABEL, from, (left) + 66, from, (left) + 98, (top) + 3, 16},             \
-        {IDC_MENU_##r, from, (left) + 98, from, (left) + 130, top, 20}
+// Where a layout puts the icon rows: each row a label, its path box and its browse button, the
+// rows `step` apart from `top`, ending `right` from `rightFrom`.
+struct IconRows {
+    int top;
+    int step;
+    From rightFrom;
+    int right;
+};
+// The label column's width.
+constexpr int kIconLabelWidth = 84;
 
 // Portrait: every row under the one before.
+constexpr IconRows kPortraitIcons = {4, 22, From::Right, -4};
 const ControlPlace kPortraitPlaces[] = {
-    ICON_ROW(PROGRAM, 4, 84, From::Right, -4),
-    ICON_ROW(SETTINGS, 26, 84, From::Right, -4),
-    ICON_ROW(FIND, 48, 84, From::Right, -4),
-    ICON_ROW(HELP, 70, 84, From::Right, -4),
-    ICON_ROW(ARROW, 92, 84, From::Right, -4),
     {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Right, -4, 116, 16},
-    MARGIN_ROW(LEFT, RIGHT, From::Left, 4, 132),
+    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 34, 135, 16},
+    {IDC_MENU_LEFT, From::Left, 34, From::Left, 66, 132, 20},
+    {IDC_MENU_RIGHT_LABEL, From::Left, 70, From::Left, 102, 135, 16},
+    {IDC_MENU_RIGHT, From::Left, 102, From::Left, 134, 132, 20},
     {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Right, -4, 156, 16},
-    MARGIN_ROW(SUB_LEFT, SUB_RIGHT, From::Left, 4, 172),
+    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 34, 175, 16},
+    {IDC_MENU_SUB_LEFT, From::Left, 34, From::Left, 66, 172, 20},
+    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 70, From::Left, 102, 175, 16},
+    {IDC_MENU_SUB_RIGHT, From::Left, 102, From::Left, 134, 172, 20},
     {IDC_MENU_FONT, From::Left, 4, From::Middle, -3, 198, 23},
     {IDC_MENU_NO_IMAGES, From::Middle, 3, From::Right, -4, 200, 20},
     {IDC_MENU_BACKGROUND, From::Left, 4, From::Middle, -3, 225, 23},
@@ -84,16 +85,18 @@ const ControlPlace kPortraitPlaces[] = {
 };
 
 // Landscape: the icons on the left half, margins and buttons on the right half.
+constexpr IconRows kLandscapeIcons = {4, 24, From::Middle, -2};
 const ControlPlace kLandscapePlaces[] = {
-    ICON_ROW(PROGRAM, 4, 84, From::Middle, -2),
-    ICON_ROW(SETTINGS, 28, 84, From::Middle, -2),
-    ICON_ROW(FIND, 52, 84, From::Middle, -2),
-    ICON_ROW(HELP, 76, 84, From::Middle, -2),
-    ICON_ROW(ARROW, 100, 84, From::Middle, -2),
     {IDC_MENU_FIRST_MARGINS, From::Middle, 4, From::Right, -4, 4, 16},
-    MARGIN_ROW(LEFT, RIGHT, From::Middle, 4, 20),
+    {IDC_MENU_LEFT_LABEL, From::Middle, 4, From::Middle, 34, 23, 16},
+    {IDC_MENU_LEFT, From::Middle, 34, From::Middle, 66, 20, 20},
+    {IDC_MENU_RIGHT_LABEL, From::Middle, 70, From::Middle, 102, 23, 16},
+    {IDC_MENU_RIGHT, From::Middle, 102, From::Middle, 134, 20, 20},
     {IDC_MENU_SUB_MARGINS, From::Middle, 4, From::Right, -4, 46, 16},
-    MARGIN_ROW(SUB_LEFT, SUB_RIGHT, From::Middle, 4, 62),
+    {IDC_MENU_SUB_LEFT_LABEL, From::Middle, 4, From::Middle, 34, 65, 16},
+    {IDC_MENU_SUB_LEFT, From::Middle, 34, From::Middle, 66, 62, 20},
+    {IDC_MENU_SUB_RIGHT_LABEL, From::Middle, 70, From::Middle, 102, 65, 16},
+    {IDC_MENU_SUB_RIGHT, From::Middle, 102, From::Middle, 134, 62, 20},
     {IDC_MENU_FONT, From::Middle, 4, From::Right, -4, 90, 22},
     {IDC_MENU_NO_IMAGES, From::Left, 4, From::Middle, -2, 126, 20},
     {IDC_MENU_BACKGROUND, From::Middle, 4, From::Right, -4, 114, 22},
@@ -101,12 +104,8 @@ const ControlPlace kLandscapePlaces[] = {
 };
 
 // Square: the icons, then the two margin pairs side by side, then two rows of buttons.
+constexpr IconRows kSquareIcons = {2, 21, From::Right, -4};
 const ControlPlace kSquarePlaces[] = {
-    ICON_ROW(PROGRAM, 2, 84, From::Right, -4),
-    ICON_ROW(SETTINGS, 23, 84, From::Right, -4),
-    ICON_ROW(FIND, 44, 84, From::Right, -4),
-    ICON_ROW(HELP, 65, 84, From::Right, -4),
-    ICON_ROW(ARROW, 86, 84, From::Right, -4),
     {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Middle, -2, 108, 16},
     {IDC_MENU_SUB_MARGINS, From::Middle, 2, From::Right, -4, 108, 16},
     {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 30, 127, 16},
@@ -123,8 +122,22 @@ const ControlPlace kSquarePlaces[] = {
     {IDC_MENU_HIGHLIGHT, From::Middle, 2, From::Right, -4, 169, 21},
 };
 
-#undef ICON_ROW
-#undef MARGIN_ROW
+// Every control's place in a layout: the icon rows, then the layout's other places.
+template <size_t N>
+std::vector<ControlPlace> LayoutPlaces(const IconRows& icons, const ControlPlace (&rest)[N]) {
+    std::vector<ControlPlace> places;
+    for (size_t i = 0; i < kStartMenuIconCount; ++i) {
+        const IconRow& row = kIconRows[i];
+        const int top = icons.top + static_cast<int>(i) * icons.step;
+        places.push_back({row.label, From::Left, 4, From::Left, 4 + kIconLabelWidth, top + 3, 16});
+        places.push_back({row.edit, From::Left, 6 + kIconLabelWidth, icons.rightFrom,
+                          icons.right - 27, top, 20});
+        places.push_back(
+            {row.browse, icons.rightFrom, icons.right - 24, icons.rightFrom, icons.right, top, 20});
+    }
+    places.insert(places.end(), rest, rest + N);
+    return places;
+}
 
 void Enable(HWND dialog, int id, bool on) {
     EnableWindow(GetDlgItem(dialog, id), on ? TRUE : FALSE);
@@ -142,18 +155,21 @@ class StartMenuDialog : public FullScreenDialog {
     StartMenuLook look;
 
   protected:
+    // The layout of the screen's shape, chosen again at every size (the screen may turn).
     const ControlPlace* Places(size_t* count) const override {
         switch (StartMenuLayout(ScreenWidth(), ScreenHeight())) {
         case DialogLayout::Square:
-            *count = sizeof kSquarePlaces / sizeof kSquarePlaces[0];
-            return kSquarePlaces;
+            m_places = LayoutPlaces(kSquareIcons, kSquarePlaces);
+            break;
         case DialogLayout::Portrait:
-            *count = sizeof kPortraitPlaces / sizeof kPortraitPlaces[0];
-            return kPortraitPlaces;
+            m_places = LayoutPlaces(kPortraitIcons, kPortraitPlaces);
+            break;
         default:
-            *count = sizeof kLandscapePlaces / sizeof kLandscapePlaces[0];
-            return kLandscapePlaces;
+            m_places = LayoutPlaces(kLandscapeIcons, kLandscapePlaces);
+            break;
         }
+        *count = m_places.size();
+        return m_places.data();
     }
     void OnInit(HWND dialog) override {
         SetWindowTextW(dialog, Localized(IDS_START_MENU_SKIN));
@@ -224,6 +240,8 @@ class StartMenuDialog : public FullScreenDialog {
         if (PickFont(record, dialog))
             look.font = FontKeysOf(record);
     }
+
+    mutable std::vector<ControlPlace> m_places; // of the layout last chosen
 };
 
 } // namespace

@@ -6,8 +6,7 @@ namespace cv2 {
 namespace {
 
 // Both rows and "Settings"; the start menu's pictures get no preview.
-constexpr PanelView kView = {IDS_FIRST_LEVEL_ROW, IDS_SUBLEVEL_ROW,
-                             kPanelRows | kPanelSettings,
+constexpr PanelView kView = {IDS_FIRST_LEVEL_ROW, IDS_SUBLEVEL_ROW, kPanelRows | kPanelSettings,
                              kPanelPreviews | kPanelList | kPanelCustomColors};
 
 } // namespace

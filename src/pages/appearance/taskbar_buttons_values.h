@@ -22,8 +22,12 @@ extern const TaskbarButtonRow kTaskbarButtonRows[kBuiltInButtonCount];
 const SettingSection& ButtonImagesSection();
 
 // The key rows of list row `row` (a built-in row).
-constexpr size_t NormalKeyRow(size_t row) { return row * 2; }
-constexpr size_t PressedKeyRow(size_t row) { return row * 2 + 1; }
+constexpr size_t NormalKeyRow(size_t row) {
+    return row * 2;
+}
+constexpr size_t PressedKeyRow(size_t row) {
+    return row * 2 + 1;
+}
 constexpr size_t kBatteryCustomRow = kBuiltInButtonCount * 2;
 constexpr size_t kSignalCustomRow = kBatteryCustomRow + 1;
 

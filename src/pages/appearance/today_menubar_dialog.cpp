@@ -3,7 +3,9 @@
 #include "ids_appearance_panel.h"
 #include "pages/appearance/panel_page.h"
 #include "ui/backgrounds/background_dialog.h"
-#include "ui/full_screen_dialog.h"
+#include "ui/control_layout.h"
+#include "ui/dialog_layout.h"
+#include "ui/dialog_object.h"
 #include "ui/pickers/font_picker.h"
 
 namespace cv2 {
@@ -29,57 +31,72 @@ const ControlPlace kPlaces[] = {
     {IDC_TODAY_FONT, From::Left, 4, From::Left, 110, 102, 23},
 };
 
-class TodayMenubarDialog : public FullScreenDialog {
-  public:
-    explicit TodayMenubarDialog(const TodayMenubarLook& look) : look(look) {}
-    TodayMenubarLook look;
+void PickNewButtonFont(HWND dialog, FontKeys& font) {
+    FontRecord record = FontRecordOf(font);
+    if (PickFont(record, dialog))
+        font = FontKeysOf(record);
+}
 
-  protected:
-    const ControlPlace* Places(size_t* count) const override {
-        *count = sizeof kPlaces / sizeof kPlaces[0];
-        return kPlaces;
-    }
-    void OnInit(HWND dialog) override {
-        SetWindowTextW(dialog, Localized(IDS_TODAY_MENUBAR));
-        SetControlTexts(dialog, kTexts, sizeof kTexts / sizeof kTexts[0]);
-        SetDialogFonts(dialog, kHeadings, sizeof kHeadings / sizeof kHeadings[0]);
-        CheckDlgButton(dialog, IDC_TODAY_DISPLAY_NEW,
-                       look.displayNewText ? BST_CHECKED : BST_UNCHECKED);
-    }
-    void OnCommand(HWND dialog, WORD id, WORD code) override {
-        if (code != BN_CLICKED)
-            return;
-        switch (id) {
-        case IDOK:
-            EndDialog(dialog, IDOK);
-            break;
-        case IDC_TODAY_CHANGE:
-            EditBackground(look.fill, dialog);
-            break;
-        case IDC_TODAY_DISPLAY_NEW:
-            look.displayNewText = IsDlgButtonChecked(dialog, IDC_TODAY_DISPLAY_NEW) == BST_CHECKED;
-            break;
-        case IDC_TODAY_FONT:
-            PickNewButtonFont(dialog);
-            break;
-        }
-    }
+// Full-screen with the shell's OK button. When the shell cannot make it so, the dialog still
+// runs, but as its template stands: template texts and the check box not set.
+void OnInit(HWND dialog, const TodayMenubarLook& look) {
+    if (!InitFullScreenDialog(dialog) || !AddEmptyMenuBar(dialog))
+        return;
+    SetWindowTextW(dialog, Localized(IDS_TODAY_MENUBAR));
+    SetControlTexts(dialog, kTexts, sizeof kTexts / sizeof kTexts[0]);
+    SetDialogFonts(dialog, kHeadings, sizeof kHeadings / sizeof kHeadings[0]);
+    CheckDlgButton(dialog, IDC_TODAY_DISPLAY_NEW,
+                   look.displayNewText ? BST_CHECKED : BST_UNCHECKED);
+}
 
-  private:
-    void PickNewButtonFont(HWND dialog) {
-        FontRecord record = FontRecordOf(look.font);
-        if (PickFont(record, dialog))
-            look.font = FontKeysOf(record);
+void OnCommand(HWND dialog, TodayMenubarLook& look, WORD id) {
+    switch (id) {
+    case IDOK:
+    case IDCANCEL:
+        EndDialog(dialog, id);
+        break;
+    case IDC_TODAY_CHANGE:
+        EditBackground(look.fill, dialog);
+        break;
+    case IDC_TODAY_DISPLAY_NEW:
+        look.displayNewText = IsDlgButtonChecked(dialog, IDC_TODAY_DISPLAY_NEW) == BST_CHECKED;
+        break;
+    case IDC_TODAY_FONT:
+        PickNewButtonFont(dialog, look.font);
+        break;
     }
-};
+}
+
+INT_PTR CALLBACK TodayMenubarProc(HWND dialog, UINT msg, WPARAM wParam, LPARAM lParam) {
+    TodayMenubarLook* look = DialogObject<TodayMenubarLook>(dialog, msg, lParam);
+    if (!look)
+        return FALSE;
+    switch (msg) {
+    case WM_INITDIALOG:
+        OnInit(dialog, *look);
+        PlaceControls(dialog, kPlaces, sizeof kPlaces / sizeof kPlaces[0]);
+        return TRUE;
+    case WM_SIZE:
+        PlaceControls(dialog, kPlaces, sizeof kPlaces / sizeof kPlaces[0]);
+        return TRUE;
+    case WM_COMMAND:
+        if (HIWORD(wParam) == BN_CLICKED)
+            OnCommand(dialog, *look, LOWORD(wParam));
+        return TRUE;
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSTATIC:
+        return StaticColors(reinterpret_cast<HDC>(wParam));
+    }
+    return FALSE;
+}
 
 } // namespace
 
 bool EditTodayMenubar(TodayMenubarLook& look, HWND owner) {
-    TodayMenubarDialog dialog(look);
-    if (dialog.Run(owner, kTemplates) != IDOK)
+    TodayMenubarLook copy = look;
+    if (RunDialog(owner, kTemplates, TodayMenubarProc, reinterpret_cast<LPARAM>(&copy)) != IDOK)
         return false;
-    look = dialog.look;
+    look = copy;
     return true;
 }
 

@@ -195,7 +195,9 @@ class PanelPagesE2E : public DeviceFixture {
 
 TEST_F(PanelPagesE2E, VisitingEveryPageAndTypingAPathWritesEveryKeyInOrder) {
     const std::string samples = SamplesFolder() + "Themes\\CVDefault\\";
-    Start("[Topbar]\nPortrait=" + samples + "topbar.bmp\nMode=Tiled\n[SoftKey]\nMode=gradient\n");
+    // Keys already in the file keep their places, so the sections start with their first keys.
+    Start("[Topbar]\nPortrait=" + samples + "topbar.bmp\nLandscape=" + samples +
+          "topbar_l.bmp\nMode=Tiled\n[SoftKey]\nPortrait=\nLandscape=\nMode=gradient\n");
     for (const wchar_t* title : kPanelTitles)
         VisitPage(title);
     VisitPage(L"Volume Bubble");
@@ -209,13 +211,15 @@ TEST_F(PanelPagesE2E, VisitingEveryPageAndTypingAPathWritesEveryKeyInOrder) {
 }
 
 TEST_F(PanelPagesE2E, PagesNeverVisitedStillWriteTheirValues) {
-    Start("[Menubar]\nNormal=\\n.png\nLeft=6\n[Start Menu Skin]\nFind Icon=\\find.png\n");
+    Start(
+        "[Volume Bubble]\nImage=\\bubble.png\n[Start Menu Skin]\nStart Menu Picture=\\menu.png\n");
     OkAndApply();
     ExpectEveryPanelSectionInOrder();
-    EXPECT_NE(SectionText("Menubar").find("Normal=\\n.png"), std::string::npos);
-    EXPECT_NE(SectionText("Menubar").find("Left=6"), std::string::npos);
+    EXPECT_NE(SectionText("Volume Bubble").find("Image=\\bubble.png"), std::string::npos);
+    EXPECT_NE(SectionText("Start Menu Skin").find("Start Menu Picture=\\menu.png"),
+              std::string::npos);
+    EXPECT_NE(SectionText("Menubar").find("Left=3"), std::string::npos);
     EXPECT_NE(SectionText("Menubar").find("Right=3"), std::string::npos);
-    EXPECT_NE(SectionText("Start Menu Skin").find("Find Icon=\\find.png"), std::string::npos);
 }
 
 } // namespace cv2test

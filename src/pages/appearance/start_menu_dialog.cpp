@@ -103,23 +103,23 @@ const ControlPlace kLandscapePlaces[] = {
     {IDC_MENU_HIGHLIGHT, From::Middle, 4, From::Right, -4, 138, 22},
 };
 
-// Square: the icons, then the two margin pairs side by side, then two rows of buttons.
-constexpr IconRows kSquareIcons = {2, 21, From::Right, -4};
+// Square: the icons, then the margins on the left and the buttons in a column on the right.
+constexpr IconRows kSquareIcons = {2, 20, From::Right, -4};
 const ControlPlace kSquarePlaces[] = {
-    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Middle, -2, 108, 16},
-    {IDC_MENU_SUB_MARGINS, From::Middle, 2, From::Right, -4, 108, 16},
-    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 30, 127, 16},
-    {IDC_MENU_LEFT, From::Left, 30, From::Left, 56, 124, 20},
-    {IDC_MENU_RIGHT_LABEL, From::Left, 58, From::Left, 88, 127, 16},
-    {IDC_MENU_RIGHT, From::Left, 88, From::Middle, -4, 124, 20},
-    {IDC_MENU_SUB_LEFT_LABEL, From::Middle, 2, From::Middle, 28, 127, 16},
-    {IDC_MENU_SUB_LEFT, From::Middle, 28, From::Middle, 54, 124, 20},
-    {IDC_MENU_SUB_RIGHT_LABEL, From::Middle, 56, From::Middle, 86, 127, 16},
-    {IDC_MENU_SUB_RIGHT, From::Middle, 86, From::Right, -4, 124, 20},
-    {IDC_MENU_FONT, From::Left, 4, From::Middle, -2, 146, 21},
-    {IDC_MENU_NO_IMAGES, From::Middle, 2, From::Right, -4, 147, 20},
-    {IDC_MENU_BACKGROUND, From::Left, 4, From::Middle, -2, 169, 21},
-    {IDC_MENU_HIGHLIGHT, From::Middle, 2, From::Right, -4, 169, 21},
+    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Left, 122, 104, 16},
+    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 30, 123, 16},
+    {IDC_MENU_LEFT, From::Left, 30, From::Left, 58, 120, 20},
+    {IDC_MENU_RIGHT_LABEL, From::Left, 61, From::Left, 95, 123, 16},
+    {IDC_MENU_RIGHT, From::Left, 95, From::Left, 120, 120, 20},
+    {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Left, 122, 142, 16},
+    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 30, 161, 16},
+    {IDC_MENU_SUB_LEFT, From::Left, 30, From::Left, 58, 158, 20},
+    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 61, From::Left, 95, 161, 16},
+    {IDC_MENU_SUB_RIGHT, From::Left, 95, From::Left, 120, 158, 20},
+    {IDC_MENU_FONT, From::Left, 124, From::Right, -4, 104, 21},
+    {IDC_MENU_BACKGROUND, From::Left, 124, From::Right, -4, 127, 21},
+    {IDC_MENU_HIGHLIGHT, From::Left, 124, From::Right, -4, 150, 21},
+    {IDC_MENU_NO_IMAGES, From::Left, 124, From::Right, -4, 174, 18},
 };
 
 // Every control's place in a layout: the icon rows, then the layout's other places.

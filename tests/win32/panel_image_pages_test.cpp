@@ -1,7 +1,10 @@
 // Taskbar Buttons, Start Menu Skin, Checkbox/Radio Buttons and Volume Bubble on the real theme
 // editor and its image panel.
 #include "ids_ui.h"
+#include "pages/behaviour/plugins/plugin_registry.h"
 #include "panel_pages_support.h"
+#include "plugin_test_support.h"
+#include "temp_folder.h"
 
 using namespace cv2;
 using cv2test::DialogDriver;
@@ -261,4 +264,41 @@ TEST_F(PanelImagePages, VolumeBubbleSavesThePathTypedIntoTheFirstRow) {
     RunEditor(cv2test::kVolumeBubblePage,
               [](HWND dlg) { cv2test::TypeInto(dlg, IDC_PANEL_FIRST_PATH, L"\\bubble.png"); });
     EXPECT_EQ(doc.GetString(L"Volume Bubble", L"Image", L"?"), L"\\bubble.png");
+}
+
+namespace {
+
+// The application's plug-in list holding the sample plug-in for one test.
+class TaskbarButtonsWithPlugin : public PanelImagePages {
+  protected:
+    void SetUp() override {
+        PanelImagePages::SetUp();
+        SharedPlugins().Load(
+            {cv2test::TextValue(L"Sample", cv2test::CopyPlugin(dir, L"SamplePlugin.dll"))});
+    }
+    void TearDown() override {
+        SharedPlugins().Release();
+        PanelImagePages::TearDown();
+    }
+    cv2test::TempFolder dir;
+};
+
+} // namespace
+
+TEST_F(TaskbarButtonsWithPlugin, PluginRowsFollowTheBuiltInOnesAndKeepTheirOwnImages) {
+    doc = cv2test::ParsedDoc("[Button Images]\r\nSample Mail Normal=\\mail.png\r\n");
+    std::wstring name, mail;
+    RunEditor(cv2test::kTaskbarButtonsPage, [&](HWND dlg) {
+        wchar_t text[64] = {};
+        SendDlgItemMessageW(dlg, IDC_PANEL_LIST, CB_GETLBTEXT, 17, reinterpret_cast<LPARAM>(text));
+        name = text;
+        ChooseRow(dlg, 18);
+        mail = cv2test::DlgText(dlg, IDC_PANEL_FIRST_PATH);
+        ChooseRow(dlg, 19);
+        cv2test::TypeInto(dlg, IDC_PANEL_SECOND_PATH, L"\\torch-down.png");
+    });
+    EXPECT_EQ(name, L"Sample Weather");
+    EXPECT_EQ(mail, L"\\mail.png");
+    EXPECT_EQ(doc.GetString(L"Button Images", L"Sample Mail Normal", L"?"), L"\\mail.png");
+    EXPECT_EQ(doc.GetString(L"Button Images", L"Sample Torch Pressed", L"?"), L"\\torch-down.png");
 }

@@ -1,5 +1,6 @@
 // The four bar background pages on the real theme editor and its image panel: paths moved
 // through the panel, the settings dialogs each opens, and the soft keys' fixed mode.
+#include "app/app_messages.h"
 #include "ids_ui.h"
 #include "panel_pages_support.h"
 
@@ -247,4 +248,30 @@ TEST_F(BarBackgroundPages, CancelledSoftKeyDialogChangesNoPicture) {
             IDCANCEL);
     });
     EXPECT_EQ(doc.GetString(L"SoftKey", L"Left Button", L"?"), L"\\lb.png");
+}
+
+TEST_F(BarBackgroundPages, ReloadWhileThePageIsCurrentShowsTheReloadedPaths) {
+    doc = cv2test::ParsedDoc("[Topbar]\r\nPortrait=\\before.png\r\n");
+    std::wstring shown;
+    RunEditor(cv2test::kTaskbarBackgroundPage, [&](HWND dlg) {
+        doc.SetString(L"Topbar", L"Portrait", L"\\imported.png");
+        SendMessageW(dlg, UpdateThemeMessage(), 0, 0);
+        shown = cv2test::DlgText(dlg, IDC_PANEL_FIRST_PATH);
+    });
+    EXPECT_EQ(shown, L"\\imported.png");
+    EXPECT_EQ(doc.GetString(L"Topbar", L"Portrait", L"?"), L"\\imported.png");
+}
+
+TEST_F(BarBackgroundPages, ExportWritesThePathTypedIntoTheCurrentPage) {
+    IniDocument target;
+    RunEditor(
+        cv2test::kSoftKeysPage,
+        [&](HWND dlg) {
+            cv2test::TypeInto(dlg, IDC_PANEL_SECOND_PATH, L"\\wide-keys.png");
+            SendMessageW(dlg, ExportThemeMessage(), 0, reinterpret_cast<LPARAM>(&target));
+        },
+        IDCANCEL);
+    EXPECT_EQ(target.GetString(L"SoftKey", L"Landscape", L"?"), L"\\wide-keys.png");
+    EXPECT_EQ(target.GetString(L"SoftKey", L"Mode", L"?"), L"scaled");
+    EXPECT_FALSE(doc.HasSection(L"SoftKey"));
 }

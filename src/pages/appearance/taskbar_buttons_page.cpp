@@ -43,13 +43,14 @@ void TaskbarButtonsPage::Show(bool visible) {
 }
 
 void TaskbarButtonsPage::Load(IniDocument* doc) {
-    PanelPage::Load(doc);
+    // The plug-in rows first: the base puts the current row's paths into the panel.
     for (PluginRow& row : m_plugins) {
         row.paths[0].clear();
         row.paths[1].clear();
         if (doc)
             SharedPlugins().ReadButtonImages(*doc, row.name.c_str(), row.paths[0], row.paths[1]);
     }
+    PanelPage::Load(doc);
 }
 
 bool TaskbarButtonsPage::OnCommand(WPARAM wParam, LPARAM) {

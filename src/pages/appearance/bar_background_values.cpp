@@ -10,12 +10,10 @@ namespace {
 // The platform's system colour of active captions.
 constexpr int kActiveCaption = 2;
 
-const wchar_t* const kModeWords[] = {L"scaled", L"tiled", L"color", L"gradient", L"none", nullptr};
-
 constexpr SettingKey kBackgroundKeys[kBackgroundRowCount] = {
     {L"Portrait", SettingType::Path},
     {L"Landscape", SettingType::Path},
-    {L"Mode", SettingType::Choice, L"color", DeviceDefault::None, 0, kModeWords},
+    {L"Mode", SettingType::Choice, L"color", DeviceDefault::None, 0, kBackgroundModeWords},
     {L"Solid Color", SettingType::Color, L"", DeviceDefault::SystemColor, kActiveCaption},
     {L"Left Color", SettingType::Color, L"", DeviceDefault::ThemeColor, 0},
     {L"Right Color", SettingType::Color, L"", DeviceDefault::ThemeColor, 1},

@@ -54,11 +54,12 @@ const ControlText kTexts[] = {
 };
 const int kHeadings[] = {IDC_MENU_FIRST_MARGINS, IDC_MENU_SUB_MARGINS};
 
-// Where a layout puts the icon rows: each row a label, its path box and its browse button, the
-// rows `step` apart from `top`, ending `right` from `rightFrom`.
+// Where a layout puts the icon rows: each row a label, its path box and its browse button,
+// `height` high, the rows `step` apart from `top`, ending `right` from `rightFrom`.
 struct IconRows {
     int top;
     int step;
+    int height;
     From rightFrom;
     int right;
 };
@@ -66,7 +67,7 @@ struct IconRows {
 constexpr int kIconLabelWidth = 84;
 
 // Portrait: every row under the one before.
-constexpr IconRows kPortraitIcons = {4, 22, From::Right, -4};
+constexpr IconRows kPortraitIcons = {4, 22, 20, From::Right, -4};
 const ControlPlace kPortraitPlaces[] = {
     {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Right, -4, 116, 16},
     {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 34, 135, 16},
@@ -85,7 +86,7 @@ const ControlPlace kPortraitPlaces[] = {
 };
 
 // Landscape: the icons on the left half, margins and buttons on the right half.
-constexpr IconRows kLandscapeIcons = {4, 24, From::Middle, -2};
+constexpr IconRows kLandscapeIcons = {4, 24, 20, From::Middle, -2};
 const ControlPlace kLandscapePlaces[] = {
     {IDC_MENU_FIRST_MARGINS, From::Middle, 4, From::Right, -4, 4, 16},
     {IDC_MENU_LEFT_LABEL, From::Middle, 4, From::Middle, 34, 23, 16},
@@ -104,22 +105,22 @@ const ControlPlace kLandscapePlaces[] = {
 };
 
 // Square: the icons, then the margins on the left and the buttons in a column on the right.
-constexpr IconRows kSquareIcons = {2, 20, From::Right, -4};
+constexpr IconRows kSquareIcons = {2, 19, 19, From::Right, -4};
 const ControlPlace kSquarePlaces[] = {
-    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Left, 122, 104, 16},
-    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 30, 123, 16},
-    {IDC_MENU_LEFT, From::Left, 30, From::Left, 58, 120, 20},
-    {IDC_MENU_RIGHT_LABEL, From::Left, 61, From::Left, 95, 123, 16},
-    {IDC_MENU_RIGHT, From::Left, 95, From::Left, 120, 120, 20},
-    {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Left, 122, 142, 16},
-    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 30, 161, 16},
-    {IDC_MENU_SUB_LEFT, From::Left, 30, From::Left, 58, 158, 20},
-    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 61, From::Left, 95, 161, 16},
-    {IDC_MENU_SUB_RIGHT, From::Left, 95, From::Left, 120, 158, 20},
-    {IDC_MENU_FONT, From::Left, 124, From::Right, -4, 104, 21},
-    {IDC_MENU_BACKGROUND, From::Left, 124, From::Right, -4, 127, 21},
-    {IDC_MENU_HIGHLIGHT, From::Left, 124, From::Right, -4, 150, 21},
-    {IDC_MENU_NO_IMAGES, From::Left, 124, From::Right, -4, 174, 18},
+    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Left, 122, 99, 16},
+    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 30, 118, 16},
+    {IDC_MENU_LEFT, From::Left, 30, From::Left, 58, 115, 19},
+    {IDC_MENU_RIGHT_LABEL, From::Left, 61, From::Left, 95, 118, 16},
+    {IDC_MENU_RIGHT, From::Left, 95, From::Left, 120, 115, 19},
+    {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Left, 122, 136, 16},
+    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 30, 155, 16},
+    {IDC_MENU_SUB_LEFT, From::Left, 30, From::Left, 58, 152, 19},
+    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 61, From::Left, 95, 155, 16},
+    {IDC_MENU_SUB_RIGHT, From::Left, 95, From::Left, 120, 152, 19},
+    {IDC_MENU_FONT, From::Left, 124, From::Right, -4, 99, 20},
+    {IDC_MENU_BACKGROUND, From::Left, 124, From::Right, -4, 121, 20},
+    {IDC_MENU_HIGHLIGHT, From::Left, 124, From::Right, -4, 143, 20},
+    {IDC_MENU_NO_IMAGES, From::Left, 124, From::Right, -4, 166, 17},
 };
 
 // Every control's place in a layout: the icon rows, then the layout's other places.
@@ -131,9 +132,9 @@ std::vector<ControlPlace> LayoutPlaces(const IconRows& icons, const ControlPlace
         const int top = icons.top + static_cast<int>(i) * icons.step;
         places.push_back({row.label, From::Left, 4, From::Left, 4 + kIconLabelWidth, top + 3, 16});
         places.push_back({row.edit, From::Left, 6 + kIconLabelWidth, icons.rightFrom,
-                          icons.right - 27, top, 20});
-        places.push_back(
-            {row.browse, icons.rightFrom, icons.right - 24, icons.rightFrom, icons.right, top, 20});
+                          icons.right - 27, top, icons.height});
+        places.push_back({row.browse, icons.rightFrom, icons.right - 24, icons.rightFrom,
+                          icons.right, top, icons.height});
     }
     places.insert(places.end(), rest, rest + N);
     return places;

@@ -21,6 +21,10 @@ enum PanelParts : unsigned {
     kPanelSettings = 4,     // the "Settings" button
     kPanelCustomColors = 8, // the "Use Custom Colors" check box
     kPanelAll = 15,
+    // Finer parts inside the rows, for pages that use one row or no previews; kPanelRows still
+    // covers them.
+    kPanelSecondRow = 16, // the second row's label, path box, browse button and preview
+    kPanelPreviews = 32,  // both previews
 };
 
 // Longest path a row holds (a path buffer of 260 less its terminator).

@@ -1,11 +1,11 @@
 #include "ui/backgrounds/background_record.h"
 
 namespace cv2 {
-namespace {
 
-// The stored words, indexed by mode.
-const wchar_t* const kModeWords[kBackgroundModeCount] = {L"scaled", L"tiled", L"color", L"gradient",
-                                                         L"none"};
+const wchar_t* const kBackgroundModeWords[kBackgroundModeCount + 1] = {
+    L"scaled", L"tiled", L"color", L"gradient", L"none", nullptr};
+
+namespace {
 
 const wchar_t kPortraitKey[] = L"Portrait";
 const wchar_t kLandscapeKey[] = L"Landscape";
@@ -21,7 +21,7 @@ int32_t ModeFromWord(const wchar_t* word) {
     if (!word)
         return kModeColor;
     for (int32_t mode = 0; mode < kBackgroundModeCount; ++mode) {
-        if (EqualsNoCase(word, kModeWords[mode]))
+        if (EqualsNoCase(word, kBackgroundModeWords[mode]))
             return mode;
     }
     return kModeColor;
@@ -29,8 +29,8 @@ int32_t ModeFromWord(const wchar_t* word) {
 
 const wchar_t* ModeWord(int32_t mode) {
     if (mode < 0 || mode >= kBackgroundModeCount)
-        return kModeWords[kModeColor];
-    return kModeWords[mode];
+        return kBackgroundModeWords[kModeColor];
+    return kBackgroundModeWords[mode];
 }
 
 BackgroundDefaults MakeBackgroundDefaults(ColorRef activeCaption, const ColorRef* themeColor0,
@@ -45,7 +45,7 @@ BackgroundRecord ReadBackground(const IniDocument& doc, const wchar_t* section,
     r.portraitImage = doc.GetString(section, kPortraitKey, L"", kBackgroundPathChars);
     r.landscapeImage = doc.GetString(section, kLandscapeKey, L"", kBackgroundPathChars);
     const std::wstring word =
-        doc.GetString(section, kModeKey, kModeWords[kModeColor], kModeWordChars);
+        doc.GetString(section, kModeKey, kBackgroundModeWords[kModeColor], kModeWordChars);
     r.mode = ModeFromWord(word.c_str());
     r.solidColor = ReadColor(doc, section, kSolidColorKey, defaults.solidColor);
     r.leftColor = ReadColor(doc, section, kLeftColorKey, defaults.leftColor);

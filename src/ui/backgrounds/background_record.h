@@ -21,6 +21,9 @@ enum BackgroundMode : int32_t {
 };
 constexpr int kBackgroundModeCount = 5;
 
+// The stored words, indexed by mode, ending with a null (the word list of a described key).
+extern const wchar_t* const kBackgroundModeWords[kBackgroundModeCount + 1];
+
 // The mode a stored word names, compared without regard to case; any other word (and no word)
 // is a colour fill.
 int32_t ModeFromWord(const wchar_t* word);

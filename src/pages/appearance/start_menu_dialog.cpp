@@ -1,0 +1,261 @@
+#include "pages/appearance/start_menu_dialog.h"
+
+#include <vector>
+
+#include "ids_appearance_panel.h"
+#include "pages/appearance/panel_page.h"
+#include "store/paths.h"
+#include "store/screen.h"
+#include "ui/backgrounds/graphics_browse.h"
+#include "ui/full_screen_dialog.h"
+#include "ui/pickers/color_picker.h"
+#include "ui/pickers/font_picker.h"
+
+namespace cv2 {
+namespace {
+
+const DialogTemplates kTemplates = {IDD_START_MENU_PORTRAIT, IDD_START_MENU_LANDSCAPE,
+                                    IDD_START_MENU_SQUARE};
+constexpr int kPathChars = 259;
+constexpr int kMarginChars = 100;
+
+// The icon rows, in the order of StartMenuLook::icons.
+struct IconRow {
+    int label;
+    int edit;
+    int browse;
+    StringId text;
+};
+const IconRow kIconRows[kStartMenuIconCount] = {
+    {IDC_MENU_PROGRAM_LABEL, IDC_MENU_PROGRAM, IDC_MENU_PROGRAM_BROWSE, IDS_PROGRAM_GROUP},
+    {IDC_MENU_SETTINGS_LABEL, IDC_MENU_SETTINGS, IDC_MENU_SETTINGS_BROWSE, IDS_SETTINGS_GROUP},
+    {IDC_MENU_FIND_LABEL, IDC_MENU_FIND, IDC_MENU_FIND_BROWSE, IDS_FIND_ICON},
+    {IDC_MENU_HELP_LABEL, IDC_MENU_HELP, IDC_MENU_HELP_BROWSE, IDS_HELP_ICON},
+    {IDC_MENU_ARROW_LABEL, IDC_MENU_ARROW, IDC_MENU_ARROW_BROWSE, IDS_SUBMENU_ARROW},
+};
+// The submenu arrow's row is left out of the images-or-colours rule.
+constexpr size_t kRuledIconRows = 4;
+
+// The margin boxes, in the order of StartMenuLook::margins.
+const int kMarginBoxes[kStartMenuMarginCount] = {IDC_MENU_LEFT, IDC_MENU_RIGHT, IDC_MENU_SUB_LEFT,
+                                                 IDC_MENU_SUB_RIGHT};
+
+const ControlText kTexts[] = {
+    {IDC_MENU_FIRST_MARGINS, IDS_FIRST_LEVEL_MARGINS},
+    {IDC_MENU_SUB_MARGINS, IDS_SUBLEVEL_MARGINS},
+    {IDC_MENU_LEFT_LABEL, IDS_LEFT_SHORT},
+    {IDC_MENU_RIGHT_LABEL, IDS_RIGHT_SHORT},
+    {IDC_MENU_SUB_LEFT_LABEL, IDS_LEFT_SHORT},
+    {IDC_MENU_SUB_RIGHT_LABEL, IDS_RIGHT_SHORT},
+    {IDC_MENU_FONT, IDS_FONT_BUTTON},
+    {IDC_MENU_NO_IMAGES, IDS_DONT_USE_IMAGES},
+    {IDC_MENU_BACKGROUND, IDS_MENU_BACKGROUND},
+    {IDC_MENU_HIGHLIGHT, IDS_MENU_HIGHLIGHT},
+};
+const int kHeadings[] = {IDC_MENU_FIRST_MARGINS, IDC_MENU_SUB_MARGINS};
+
+// Where a layout puts the icon rows: each row a label, its path box and its browse button,
+// `height` high, the rows `step` apart from `top`, ending `right` from `rightFrom`.
+struct IconRows {
+    int top;
+    int step;
+    int height;
+    From rightFrom;
+    int right;
+};
+// The label column's width.
+constexpr int kIconLabelWidth = 84;
+
+// Portrait: every row under the one before.
+constexpr IconRows kPortraitIcons = {4, 22, 20, From::Right, -4};
+const ControlPlace kPortraitPlaces[] = {
+    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Right, -4, 116, 16},
+    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 34, 135, 16},
+    {IDC_MENU_LEFT, From::Left, 34, From::Left, 66, 132, 20},
+    {IDC_MENU_RIGHT_LABEL, From::Left, 70, From::Left, 102, 135, 16},
+    {IDC_MENU_RIGHT, From::Left, 102, From::Left, 134, 132, 20},
+    {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Right, -4, 156, 16},
+    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 34, 175, 16},
+    {IDC_MENU_SUB_LEFT, From::Left, 34, From::Left, 66, 172, 20},
+    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 70, From::Left, 102, 175, 16},
+    {IDC_MENU_SUB_RIGHT, From::Left, 102, From::Left, 134, 172, 20},
+    {IDC_MENU_FONT, From::Left, 4, From::Middle, -3, 198, 23},
+    {IDC_MENU_NO_IMAGES, From::Middle, 3, From::Right, -4, 200, 20},
+    {IDC_MENU_BACKGROUND, From::Left, 4, From::Middle, -3, 225, 23},
+    {IDC_MENU_HIGHLIGHT, From::Middle, 3, From::Right, -4, 225, 23},
+};
+
+// Landscape: the icons on the left half, margins and buttons on the right half.
+constexpr IconRows kLandscapeIcons = {4, 24, 20, From::Middle, -2};
+const ControlPlace kLandscapePlaces[] = {
+    {IDC_MENU_FIRST_MARGINS, From::Middle, 4, From::Right, -4, 4, 16},
+    {IDC_MENU_LEFT_LABEL, From::Middle, 4, From::Middle, 34, 23, 16},
+    {IDC_MENU_LEFT, From::Middle, 34, From::Middle, 66, 20, 20},
+    {IDC_MENU_RIGHT_LABEL, From::Middle, 70, From::Middle, 102, 23, 16},
+    {IDC_MENU_RIGHT, From::Middle, 102, From::Middle, 134, 20, 20},
+    {IDC_MENU_SUB_MARGINS, From::Middle, 4, From::Right, -4, 46, 16},
+    {IDC_MENU_SUB_LEFT_LABEL, From::Middle, 4, From::Middle, 34, 65, 16},
+    {IDC_MENU_SUB_LEFT, From::Middle, 34, From::Middle, 66, 62, 20},
+    {IDC_MENU_SUB_RIGHT_LABEL, From::Middle, 70, From::Middle, 102, 65, 16},
+    {IDC_MENU_SUB_RIGHT, From::Middle, 102, From::Middle, 134, 62, 20},
+    {IDC_MENU_FONT, From::Middle, 4, From::Right, -4, 90, 22},
+    {IDC_MENU_NO_IMAGES, From::Left, 4, From::Middle, -2, 126, 20},
+    {IDC_MENU_BACKGROUND, From::Middle, 4, From::Right, -4, 114, 22},
+    {IDC_MENU_HIGHLIGHT, From::Middle, 4, From::Right, -4, 138, 22},
+};
+
+// Square: the icons, then the margins on the left and the buttons in a column on the right.
+constexpr IconRows kSquareIcons = {2, 19, 19, From::Right, -4};
+const ControlPlace kSquarePlaces[] = {
+    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Left, 122, 99, 16},
+    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 30, 118, 16},
+    {IDC_MENU_LEFT, From::Left, 30, From::Left, 58, 115, 19},
+    {IDC_MENU_RIGHT_LABEL, From::Left, 61, From::Left, 95, 118, 16},
+    {IDC_MENU_RIGHT, From::Left, 95, From::Left, 120, 115, 19},
+    {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Left, 122, 136, 16},
+    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 30, 155, 16},
+    {IDC_MENU_SUB_LEFT, From::Left, 30, From::Left, 58, 152, 19},
+    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 61, From::Left, 95, 155, 16},
+    {IDC_MENU_SUB_RIGHT, From::Left, 95, From::Left, 120, 152, 19},
+    {IDC_MENU_FONT, From::Left, 124, From::Right, -4, 99, 20},
+    {IDC_MENU_BACKGROUND, From::Left, 124, From::Right, -4, 121, 20},
+    {IDC_MENU_HIGHLIGHT, From::Left, 124, From::Right, -4, 143, 20},
+    {IDC_MENU_NO_IMAGES, From::Left, 124, From::Right, -4, 166, 17},
+};
+
+// Every control's place in a layout: the icon rows, then the layout's other places.
+template <size_t N>
+std::vector<ControlPlace> LayoutPlaces(const IconRows& icons, const ControlPlace (&rest)[N]) {
+    std::vector<ControlPlace> places;
+    for (size_t i = 0; i < kStartMenuIconCount; ++i) {
+        const IconRow& row = kIconRows[i];
+        const int top = icons.top + static_cast<int>(i) * icons.step;
+        places.push_back({row.label, From::Left, 4, From::Left, 4 + kIconLabelWidth, top + 3, 16});
+        places.push_back({row.edit, From::Left, 6 + kIconLabelWidth, icons.rightFrom,
+                          icons.right - 27, top, icons.height});
+        places.push_back({row.browse, icons.rightFrom, icons.right - 24, icons.rightFrom,
+                          icons.right, top, icons.height});
+    }
+    places.insert(places.end(), rest, rest + N);
+    return places;
+}
+
+void Enable(HWND dialog, int id, bool on) {
+    EnableWindow(GetDlgItem(dialog, id), on ? TRUE : FALSE);
+}
+
+std::wstring ItemText(HWND dialog, int id, int maxChars) {
+    std::wstring text(static_cast<size_t>(maxChars) + 1, L'\0');
+    text.resize(GetDlgItemTextW(dialog, id, &text[0], maxChars + 1));
+    return text;
+}
+
+class StartMenuDialog : public FullScreenDialog {
+  public:
+    explicit StartMenuDialog(const StartMenuLook& look) : look(look) {}
+    StartMenuLook look;
+
+  protected:
+    // The layout of the screen's shape, chosen again at every size (the screen may turn).
+    const ControlPlace* Places(size_t* count) const override {
+        switch (StartMenuLayout(ScreenWidth(), ScreenHeight())) {
+        case DialogLayout::Square:
+            m_places = LayoutPlaces(kSquareIcons, kSquarePlaces);
+            break;
+        case DialogLayout::Portrait:
+            m_places = LayoutPlaces(kPortraitIcons, kPortraitPlaces);
+            break;
+        default:
+            m_places = LayoutPlaces(kLandscapeIcons, kLandscapePlaces);
+            break;
+        }
+        *count = m_places.size();
+        return m_places.data();
+    }
+    void OnInit(HWND dialog) override {
+        SetWindowTextW(dialog, Localized(IDS_START_MENU_SKIN));
+        SetControlTexts(dialog, kTexts, sizeof kTexts / sizeof kTexts[0]);
+        for (size_t i = 0; i < kStartMenuIconCount; ++i) {
+            const IconRow& row = kIconRows[i];
+            SetDlgItemTextW(dialog, row.label, Localized(row.text));
+            SendDlgItemMessageW(dialog, row.edit, EM_LIMITTEXT, kPathChars, 0);
+            SetDlgItemTextW(dialog, row.edit, look.icons[i].c_str());
+        }
+        SetDialogFonts(dialog, kHeadings, sizeof kHeadings / sizeof kHeadings[0]);
+        for (size_t i = 0; i < kStartMenuMarginCount; ++i)
+            SetDlgItemInt(dialog, kMarginBoxes[i], static_cast<UINT>(look.margins[i]), TRUE);
+        CheckDlgButton(dialog, IDC_MENU_NO_IMAGES, look.useColors ? BST_CHECKED : BST_UNCHECKED);
+        ApplyColorsRule(dialog);
+    }
+    void OnCommand(HWND dialog, WORD id, WORD code) override {
+        if (code != BN_CLICKED)
+            return;
+        switch (id) {
+        case IDOK:
+            TakeFields(dialog);
+            EndDialog(dialog, IDOK);
+            return;
+        case IDC_MENU_NO_IMAGES:
+            ApplyColorsRule(dialog);
+            return;
+        case IDC_MENU_FONT:
+            PickMenuFont(dialog);
+            return;
+        case IDC_MENU_BACKGROUND:
+            EditColor(look.backgroundColor, dialog);
+            return;
+        case IDC_MENU_HIGHLIGHT:
+            EditColor(look.highlightColor, dialog);
+            return;
+        }
+        for (const IconRow& row : kIconRows) {
+            std::wstring path;
+            if (id == row.browse && BrowseGraphicsFile(dialog, path))
+                SetDlgItemTextW(dialog, row.edit, path.c_str());
+        }
+    }
+
+  private:
+    // Without images the menu is drawn in the two colours: the icons and margins give way to
+    // the colour buttons. The submenu arrow is drawn either way, so its row stays usable.
+    static void ApplyColorsRule(HWND dialog) {
+        const bool colors = IsDlgButtonChecked(dialog, IDC_MENU_NO_IMAGES) == BST_CHECKED;
+        for (size_t i = 0; i < kRuledIconRows; ++i) {
+            Enable(dialog, kIconRows[i].edit, !colors);
+            Enable(dialog, kIconRows[i].browse, !colors);
+        }
+        for (int box : kMarginBoxes)
+            Enable(dialog, box, !colors);
+        Enable(dialog, IDC_MENU_BACKGROUND, colors);
+        Enable(dialog, IDC_MENU_HIGHLIGHT, colors);
+    }
+    void TakeFields(HWND dialog) {
+        for (size_t i = 0; i < kStartMenuIconCount; ++i)
+            look.icons[i] = ItemText(dialog, kIconRows[i].edit, kPathChars);
+        for (size_t i = 0; i < kStartMenuMarginCount; ++i)
+            look.margins[i] = LeadingLong(ItemText(dialog, kMarginBoxes[i], kMarginChars).c_str());
+        look.useColors = IsDlgButtonChecked(dialog, IDC_MENU_NO_IMAGES) == BST_CHECKED;
+    }
+    void PickMenuFont(HWND dialog) {
+        FontRecord record = FontRecordOf(look.font);
+        if (PickFont(record, dialog))
+            look.font = FontKeysOf(record);
+    }
+
+    mutable std::vector<ControlPlace> m_places; // of the layout last chosen
+};
+
+} // namespace
+
+bool EditStartMenu(StartMenuLook& look, HWND owner) {
+    StartMenuLook cut = look;
+    for (std::wstring& icon : cut.icons)
+        icon = CutToBuffer(icon, kPathChars + 1);
+    StartMenuDialog dialog(cut);
+    if (dialog.Run(owner, kTemplates) != IDOK)
+        return false;
+    look = dialog.look;
+    return true;
+}
+
+} // namespace cv2

@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "device_fixture.h"
+#include "ids_editor.h"
 #include "ids_themes.h"
+#include "platform/file_access.h"
 
 namespace cv2test {
 namespace {
@@ -179,6 +181,117 @@ TEST_F(ThemeCatalogueE2E, CustomizeOpensTheEditorAndCancelLeavesTheThemeAsItWas)
     ASSERT_TRUE(WaitFor([&] { return !IsWindow(editor); }));
     Apply();
     EXPECT_EQ(ReadText(L"config.ini"), before);
+}
+
+namespace {
+
+class ThemeHealthE2E : public ThemeCatalogueE2E {
+  protected:
+    // Themes\Healthy: every file it names is there, one beside it and one by absolute path.
+    // Themes\Holes: one picture present, one relative and one absolute picture missing.
+    void WriteHealthThemes() {
+        Folder(L"Themes");
+        Folder(L"Themes\\Healthy");
+        Folder(L"Pictures");
+        WriteText(L"Themes\\Healthy\\bar.bmp", "BM-healthy");
+        WriteText(L"Pictures\\wide.bmp", "BM-wide");
+        WriteText(L"Themes\\Healthy\\healthy.skin",
+                  "[Skin Info]\nName=Healthy\nAuthor=Ann\nAuthorEmail=ann@example.org\n"
+                  "HiRes=FALSE\nNotes=All there\n[Topbar]\nPortrait=bar.bmp\nLandscape=" +
+                      Narrow(File(L"Pictures\\wide.bmp")) + "\n[Menubar]\nNormal=\n");
+        Folder(L"Themes\\Holes");
+        WriteText(L"Themes\\Holes\\present.bmp", "BM-present");
+        WriteText(L"Themes\\Holes\\holes.skin",
+                  "[Skin Info]\nName=Holes\nAuthor=Bob\nAuthorEmail=bob@example.org\n"
+                  "HiRes=TRUE\nNotes=Two gone\n[Topbar]\nPortrait=gone.bmp\nLandscape=" +
+                      Narrow(File(L"Nowhere\\away.png")) +
+                      "\n[Menubar]\nNormal=present.bmp\n");
+    }
+
+    // The visible dialog of the editor's process other than `except`, waiting for it.
+    static HWND OtherDialog(HWND except) {
+        HWND found = nullptr;
+        WaitFor([&] {
+            for (HWND w = FindWindowW(L"#32770", nullptr); w;
+                 w = FindWindowExW(nullptr, w, L"#32770", nullptr)) {
+                if (w != except && IsWindowVisible(w)) {
+                    found = w;
+                    return true;
+                }
+            }
+            return false;
+        });
+        return found;
+    }
+};
+
+} // namespace
+
+TEST_F(ThemeHealthE2E, HealthyThemeDetailsAreExactlyTheThemeInformation) {
+    WriteHealthThemes();
+    Start();
+    Select(L"Healthy");
+    EXPECT_TRUE(WaitFor([&] {
+        return Details() == L"Author: Ann\r\nE-Mail: ann@example.org\r\nHiRes: No\r\n\r\nNotes: "
+                            L"\r\nAll there";
+    })) << Narrow(Details());
+}
+
+TEST_F(ThemeHealthE2E, ThemeWithTwoMissingPicturesEndsItsDetailsWithThem) {
+    WriteHealthThemes();
+    Start();
+    Select(L"Holes");
+    const std::wstring expected =
+        L"Author: Bob\r\nE-Mail: bob@example.org\r\nHiRes: Yes\r\n\r\nNotes: \r\nTwo gone"
+        L"\r\nMissing files: 2\r\ngone.bmp\r\n" +
+        File(L"Nowhere\\away.png") + L"\r\n";
+    EXPECT_TRUE(WaitFor([&] { return Details() == expected; })) << Narrow(Details());
+}
+
+TEST_F(ThemeHealthE2E, ExportWithCopiedFilesMakesAFolderThatIsWholeOnItsOwn) {
+    Folder(L"Art1");
+    Folder(L"Art2");
+    Folder(L"Out");
+    WriteText(L"Art1\\bar.bmp", "BM-one");
+    WriteText(L"Art2\\bar.bmp", "BM-two");
+    WriteText(L"Art1\\button.bmp", "BM-button");
+    const std::string art1 = Narrow(File(L"Art1\\")), art2 = Narrow(File(L"Art2\\"));
+    Start("[Settings]\nTheme File=" + Narrow(File(L"config.ini")) + "\n[Topbar]\nPortrait=" +
+          art1 + "bar.bmp\nLandscape=" + art2 + "bar.bmp\n[Menubar]\nNormal=" + art1 +
+          "button.bmp\nPressed=" + art1 + "button.bmp\n");
+    ASSERT_TRUE(WaitFor([&] { return IsWindowEnabled(ShownControl(IDC_THEMES_CUSTOMIZE)); }));
+    PostMessageW(ShownControl(IDC_THEMES_CUSTOMIZE), BM_CLICK, 0, 0);
+    HWND editor = Dialog(nullptr);
+    ASSERT_TRUE(editor);
+    PostMessageW(GetDlgItem(editor, IDC_EXPORT_THEME), BM_CLICK, 0, 0);
+    HWND info = OtherDialog(editor);
+    ASSERT_TRUE(info) << "Export Theme opened no dialog";
+    SetDlgItemTextW(info, IDC_INFO_NAME, L"Shared");
+    SetDlgItemTextW(info, IDC_INFO_PATH, File(L"Out\\shared.skin").c_str());
+    SendDlgItemMessageW(info, IDC_INFO_COPY_FILES, BM_SETCHECK, BST_CHECKED, 0);
+    PostMessageW(info, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    ASSERT_TRUE(WaitFor([&] { return Exists(L"Out\\shared.skin"); }));
+    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(editor); }));
+    Cancel(true);
+    ASSERT_TRUE(WaitEditorExit());
+
+    const std::string skin = ReadText(L"Out\\shared.skin");
+    EXPECT_NE(skin.find("Portrait=bar.bmp"), std::string::npos) << skin;
+    EXPECT_NE(skin.find("Landscape=bar (2).bmp"), std::string::npos) << skin;
+    EXPECT_NE(skin.find("Normal=button.bmp"), std::string::npos) << skin;
+    EXPECT_NE(skin.find("Pressed=button.bmp"), std::string::npos) << skin;
+    // The folder alone, moved among the themes, with every original gone.
+    ASSERT_TRUE(MoveFileW(File(L"Out").c_str(), File(L"Themes\\Shared").c_str()));
+    cv2::RemoveFolderTree(File(L"Art1\\"));
+    cv2::RemoveFolderTree(File(L"Art2\\"));
+    EXPECT_EQ(ReadText(L"Themes\\Shared\\bar (2).bmp"), "BM-two");
+    ASSERT_TRUE(StartEditor());
+    SendMessageW(m_main, WM_NULL, 0, 0);
+    ASSERT_TRUE(WaitFor([&] { return List() != nullptr; }));
+    Select(L"Shared");
+    EXPECT_TRUE(WaitFor([&] { return Details() == L"Author: \r\nE-Mail: \r\nHiRes: No\r\n"; }))
+        << Narrow(Details());
 }
 
 } // namespace cv2test

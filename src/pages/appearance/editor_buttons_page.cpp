@@ -30,24 +30,6 @@ OwnControl ButtonControl(const EditorButton& button, int index) {
     return {{L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, button.text, button.id}, place, false};
 }
 
-FontRecord RecordOf(const FontKeys& keys) {
-    FontRecord record;
-    record.Create(keys.face.c_str(), keys.size, keys.style, false);
-    record.color = keys.color;
-    record.shadowColor = keys.shadowColor;
-    return record;
-}
-
-FontKeys KeysOf(const FontRecord& record) {
-    FontKeys keys;
-    keys.face = record.face;
-    keys.size = record.size;
-    keys.color = record.color;
-    keys.shadowColor = record.shadowColor;
-    keys.style = record.style;
-    return keys;
-}
-
 class EditorButtonsPage : public OwnControlsPage {
   public:
     template <size_t N>
@@ -84,9 +66,9 @@ class EditorButtonsPage : public OwnControlsPage {
             EditImages(values, owner);
             return;
         case ButtonEdit::Font: {
-            FontRecord record = RecordOf(values.Font());
+            FontRecord record = FontRecordOf(values.Font());
             if (PickFont(record, owner))
-                values.SetFont(KeysOf(record));
+                values.SetFont(FontKeysOf(record));
             return;
         }
         case ButtonEdit::Color: {

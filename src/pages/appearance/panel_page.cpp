@@ -82,22 +82,4 @@ bool PanelPage::IsSettingsClick(WPARAM wParam) const {
     return IsActive() && panel && panel->IsSettingsClick(wParam);
 }
 
-FontRecord FontRecordOf(const FontKeys& keys, bool clearType) {
-    FontRecord record;
-    record.Create(keys.face.c_str(), keys.size, keys.style, clearType);
-    record.color = keys.color;
-    record.shadowColor = keys.shadowColor;
-    return record;
-}
-
-FontKeys FontKeysOf(const FontRecord& record) {
-    FontKeys keys;
-    keys.face = record.face;
-    keys.size = record.size;
-    keys.style = record.style;
-    keys.color = record.color;
-    keys.shadowColor = record.shadowColor;
-    return keys;
-}
-
 } // namespace cv2

@@ -75,8 +75,4 @@ class PanelPage : public SettingsPage {
     PanelRows m_rows;
 };
 
-// Font records as dialogs edit them, from and to the keys a section stores.
-FontRecord FontRecordOf(const FontKeys& keys, bool clearType = false);
-FontKeys FontKeysOf(const FontRecord& record);
-
 } // namespace cv2

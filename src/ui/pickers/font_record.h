@@ -68,4 +68,8 @@ class FontRecord {
     std::wstring Ellipsized(HDC dc, const wchar_t* text, const RECT& rect, UINT flags) const;
 };
 
+// The record a font picker edits, made from the keys a section stores, and back.
+FontRecord FontRecordOf(const FontKeys& keys, bool clearType = false);
+FontKeys FontKeysOf(const FontRecord& record);
+
 } // namespace cv2

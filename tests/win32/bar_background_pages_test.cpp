@@ -86,26 +86,20 @@ TEST_F(BarBackgroundPages, PathLongerThan259CharactersIsCut) {
 }
 
 TEST_F(BarBackgroundPages, BackgroundPagesShowRowsAndSettingsAndHideListAndCheckBox) {
-    bool rows = false, settings = false, list = true, check = true;
-    std::wstring first, second;
+    cv2test::PanelShown shown;
     RunEditor(
         cv2test::kTaskbarButtonsPage,
         [&](HWND dlg) {
             Select(cv2test::kApplicationMenubarPage);
-            rows = Shown(dlg, IDC_PANEL_FIRST_PREVIEW) && Shown(dlg, IDC_PANEL_SECOND_BROWSE);
-            settings = Shown(dlg, IDC_PANEL_SETTINGS);
-            list = Shown(dlg, IDC_PANEL_LIST);
-            check = Shown(dlg, IDC_PANEL_CUSTOM_COLORS);
-            first = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
-            second = cv2test::DlgText(dlg, IDC_PANEL_SECOND_LABEL);
+            shown = cv2test::PanelShownIn(dlg);
         },
         IDCANCEL);
-    EXPECT_TRUE(rows);
-    EXPECT_TRUE(settings);
-    EXPECT_FALSE(list);
-    EXPECT_FALSE(check);
-    EXPECT_EQ(first, L"Portrait:");
-    EXPECT_EQ(second, L"Landscape:");
+    EXPECT_TRUE(shown.rows);
+    EXPECT_TRUE(shown.settings);
+    EXPECT_FALSE(shown.list);
+    EXPECT_FALSE(shown.customColors);
+    EXPECT_EQ(shown.firstLabel, L"Portrait:");
+    EXPECT_EQ(shown.secondLabel, L"Landscape:");
 }
 
 TEST_F(BarBackgroundPages, SoftKeysLeavesTheListAndCheckBoxAsTheyWere) {

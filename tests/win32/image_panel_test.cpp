@@ -62,23 +62,14 @@ TEST_F(ImagePanelTest, EveryPanelControlIsHiddenWhenTheEditorStarts) {
 }
 
 TEST_F(ImagePanelTest, APageShowsTheRowsItAsksForWithItsLabels) {
-    bool rows = false, settings = false, list = true, check = true;
-    std::wstring first, second;
-    RunWith({new PanelPage}, [&](HWND dlg) {
-        rows = Shown(dlg, IDC_PANEL_FIRST_PATH) && Shown(dlg, IDC_PANEL_SECOND_BROWSE) &&
-               Shown(dlg, IDC_PANEL_SECOND_PREVIEW);
-        settings = Shown(dlg, IDC_PANEL_SETTINGS);
-        list = Shown(dlg, IDC_PANEL_LIST);
-        check = Shown(dlg, IDC_PANEL_CUSTOM_COLORS);
-        first = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
-        second = cv2test::DlgText(dlg, IDC_PANEL_SECOND_LABEL);
-    });
-    EXPECT_TRUE(rows);
-    EXPECT_TRUE(settings);
-    EXPECT_FALSE(list);
-    EXPECT_FALSE(check);
-    EXPECT_EQ(first, L"Portrait:");
-    EXPECT_EQ(second, L"Landscape:");
+    cv2test::PanelShown shown;
+    RunWith({new PanelPage}, [&](HWND dlg) { shown = cv2test::PanelShownIn(dlg); });
+    EXPECT_TRUE(shown.rows);
+    EXPECT_TRUE(shown.settings);
+    EXPECT_FALSE(shown.list);
+    EXPECT_FALSE(shown.customColors);
+    EXPECT_EQ(shown.firstLabel, L"Portrait:");
+    EXPECT_EQ(shown.secondLabel, L"Landscape:");
 }
 
 TEST_F(ImagePanelTest, PathsSetByThePageShowWithTheirPreviews) {

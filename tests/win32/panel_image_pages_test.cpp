@@ -199,26 +199,20 @@ TEST_F(PanelImagePages, ThemeWithoutStartMenuSkinSavesUseColorsFalseAndZeroMargi
 }
 
 TEST_F(PanelImagePages, CheckRadioShowsBothRowsWithTheirLabelsAndNothingElse) {
-    bool rows = false, list = true, settings = true, check = true;
-    std::wstring first, second;
+    cv2test::PanelShown shown;
     RunEditor(
         cv2test::kTaskbarButtonsPage,
         [&](HWND dlg) {
             Select(cv2test::kCheckRadioPage);
-            rows = Shown(dlg, IDC_PANEL_FIRST_PREVIEW) && Shown(dlg, IDC_PANEL_SECOND_PATH);
-            list = Shown(dlg, IDC_PANEL_LIST);
-            settings = Shown(dlg, IDC_PANEL_SETTINGS);
-            check = Shown(dlg, IDC_PANEL_CUSTOM_COLORS);
-            first = cv2test::DlgText(dlg, IDC_PANEL_FIRST_LABEL);
-            second = cv2test::DlgText(dlg, IDC_PANEL_SECOND_LABEL);
+            shown = cv2test::PanelShownIn(dlg);
         },
         IDCANCEL);
-    EXPECT_TRUE(rows);
-    EXPECT_FALSE(list);
-    EXPECT_FALSE(settings);
-    EXPECT_FALSE(check);
-    EXPECT_EQ(first, L"Checks:");
-    EXPECT_EQ(second, L"Radios:");
+    EXPECT_TRUE(shown.rows);
+    EXPECT_FALSE(shown.list);
+    EXPECT_FALSE(shown.settings);
+    EXPECT_FALSE(shown.customColors);
+    EXPECT_EQ(shown.firstLabel, L"Checks:");
+    EXPECT_EQ(shown.secondLabel, L"Radios:");
 }
 
 TEST_F(PanelImagePages, CheckRadioKeepsTheApplicationButtonKeysOfButtons) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "color_dialog_driver.h"
+#include "ids_editor.h"
 #include "store/ini_document.h"
 #include "themes/image_panel.h"
 #include "ui/settings_page.h"
@@ -109,6 +110,30 @@ inline std::wstring DlgText(HWND dlg, int id) {
 // screen yet when a test looks).
 inline bool Shown(HWND dlg, int id) {
     return (GetWindowLongW(GetDlgItem(dlg, id), GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+// What the editor's image panel shows for the current page.
+struct PanelShown {
+    bool rows = false; // both rows whole: path boxes, browse buttons and previews
+    bool settings = false;
+    bool list = false;
+    bool customColors = false;
+    std::wstring firstLabel;
+    std::wstring secondLabel;
+};
+
+inline PanelShown PanelShownIn(HWND dlg) {
+    PanelShown shown;
+    shown.rows = true;
+    for (int id : {IDC_PANEL_FIRST_PATH, IDC_PANEL_FIRST_BROWSE, IDC_PANEL_FIRST_PREVIEW,
+                   IDC_PANEL_SECOND_PATH, IDC_PANEL_SECOND_BROWSE, IDC_PANEL_SECOND_PREVIEW})
+        shown.rows = shown.rows && Shown(dlg, id);
+    shown.settings = Shown(dlg, IDC_PANEL_SETTINGS);
+    shown.list = Shown(dlg, IDC_PANEL_LIST);
+    shown.customColors = Shown(dlg, IDC_PANEL_CUSTOM_COLORS);
+    shown.firstLabel = DlgText(dlg, IDC_PANEL_FIRST_LABEL);
+    shown.secondLabel = DlgText(dlg, IDC_PANEL_SECOND_LABEL);
+    return shown;
 }
 
 // Ticks a check box the way a tap does.

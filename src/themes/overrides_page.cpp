@@ -2,26 +2,12 @@
 
 #include "ui/child_controls.h"
 
-#include <algorithm>
-
 #include "ids_themes.h"
-#include "store/scale.h"
 #include "themes/overrides_values.h"
-#include "ui/shared_fonts.h"
-#include "ui/text_extent.h"
+#include "ui/control_layout.h"
 
 namespace cv2 {
 namespace {
-
-// Layout in 96-dpi units, from the page's top left.
-constexpr int kLeft = 3;
-constexpr int kTop = 10;
-constexpr int kBoxWidth = 234;
-constexpr int kBoxHeight = 20;
-constexpr int kBoxGap = 2;
-constexpr int kListIndent = 18; // the font list lines up with the check box's text
-constexpr int kListWidth = 150;
-constexpr int kListDrop = 120;
 
 const ChildControl kControls[ThemeOverridesPage::Count] = {
     {L"BUTTON", BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP, 0, IDS_OVERRIDE_SOUNDS,
@@ -32,6 +18,21 @@ const ChildControl kControls[ThemeOverridesPage::Count] = {
      IDC_OVERRIDE_FONTS},
     {L"COMBOBOX", CBS_DROPDOWNLIST | CBS_SORT | WS_BORDER | WS_VSCROLL | WS_TABSTOP, 0, StringId(0),
      IDC_OVERRIDE_FONT_LIST},
+};
+
+// Places in 96-dpi units inside the page's area, in the order of the controls: the three boxes
+// one under another, the font list under the last, lined up with its text.
+constexpr int kLeft = 3;
+constexpr int kBoxRight = kLeft + 234;
+constexpr int kBox = 20;
+constexpr int kListLeft = kLeft + 18;
+constexpr int kListDrop = 120;
+const ControlPlace kPlaces[ThemeOverridesPage::Count] = {
+    {IDC_OVERRIDE_SOUNDS, From::Left, kLeft, From::Left, kBoxRight, 10, kBox},
+    {IDC_OVERRIDE_COLORS, From::Left, kLeft, From::Left, kBoxRight, 32, kBox},
+    {IDC_OVERRIDE_FONTS, From::Left, kLeft, From::Left, kBoxRight, 54, kBox},
+    {IDC_OVERRIDE_FONT_LIST, From::Left, kListLeft, From::Left, kListLeft + 150, 76,
+     kBox + kListDrop},
 };
 
 int CALLBACK AddFamily(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM param) {
@@ -45,16 +46,6 @@ bool Checked(HWND box) {
 
 void SetChecked(HWND box, bool on) {
     SendMessageW(box, BM_SETCHECK, on ? BST_CHECKED : BST_UNCHECKED, 0);
-}
-
-// A check box's height for its text: one row, or as many lines as a long text needs.
-int CheckBoxHeight(HWND box, int width) {
-    const int textRoom = width - GetSystemMetrics(SM_CXMENUCHECK) - ScaleX(6);
-    const int textWidth = WindowTextWidth(box);
-    if (textRoom <= 0 || textWidth <= textRoom)
-        return Scale(kBoxHeight);
-    const int lines = (textWidth + textRoom - 1) / textRoom;
-    return std::max(Scale(kBoxHeight), lines * LineHeight(box) + Scale(4));
 }
 
 } // namespace
@@ -88,17 +79,8 @@ void ThemeOverridesPage::Create(HWND host) {
 void ThemeOverridesPage::OnSize(const RECT&) {
     if (!m_controls[Sounds])
         return;
-    const int left = Area().left + ScaleX(kLeft);
-    const int width = ScaleX(kBoxWidth);
-    int y = Area().top + Scale(kTop);
-    for (int i = Sounds; i <= Fonts; ++i) {
-        // A text wider than its box wraps, and the controls below move clear of it.
-        const int height = CheckBoxHeight(m_controls[i], width);
-        SetWindowPos(m_controls[i], nullptr, left, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
-        y += height + Scale(kBoxGap);
-    }
-    SetWindowPos(m_controls[FontList], nullptr, left + ScaleX(kListIndent), y, ScaleX(kListWidth),
-                 Scale(kBoxHeight + kListDrop), SWP_NOZORDER | SWP_NOACTIVATE);
+    for (int i = 0; i < Count; ++i)
+        PlaceWindow(m_controls[i], kPlaces[i], Area());
 }
 
 void ThemeOverridesPage::Show(bool visible) {

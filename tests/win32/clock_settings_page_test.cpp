@@ -4,6 +4,7 @@
 
 #include "check_pages_host.h"
 #include "screen_capture.h"
+#include "ui/text_extent.h"
 
 using namespace cv2;
 using namespace cv2test;
@@ -181,6 +182,13 @@ TEST_F(ClockSettingsPageScreens, StandardClock) {
     host.ShowPage();
     EXPECT_FALSE(SaveScreenshot(L"clock_settings").empty());
     EXPECT_TRUE(ScreenHasContent());
+    // Each label stands on one line beside its box.
+    for (int label : {Page::TimeLabel, Page::DateLabel}) {
+        RECT room = {};
+        GetClientRect(page.Window(static_cast<Page::Control>(label)), &room);
+        EXPECT_LE(WindowTextWidth(page.Window(static_cast<Page::Control>(label))), room.right)
+            << "label " << label << " is cut off";
+    }
 }
 
 TEST_F(ClockSettingsPageScreens, SmallClock) {

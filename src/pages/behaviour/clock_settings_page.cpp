@@ -2,13 +2,9 @@
 
 #include "ui/child_controls.h"
 
-#include <algorithm>
-
 #include "ids_behaviour.h"
 #include "pages/behaviour/clock_locale.h"
-#include "store/scale.h"
-#include "ui/shared_fonts.h"
-#include "ui/text_extent.h"
+#include "ui/control_layout.h"
 
 namespace cv2 {
 namespace {
@@ -25,21 +21,23 @@ const ChildControl kControls[ClockSettingsPage::Count] = {
     {L"STATIC", SS_LEFT, 0, IDS_CLOCK_NOTE, IDC_CLOCK_NOTE},
 };
 
-// Layout in 96-dpi units from the page's top: one column, the labels as wide as their texts.
+// Places in 96-dpi units inside the page's area, in the order of the controls: one column, the
+// labels on the edit boxes' text line, the two check boxes side by side.
 constexpr int kMargin = 6;
-constexpr int kStyleTop = 10;
-constexpr int kTimeTop = 38;
-constexpr int kDateTop = 64;
-constexpr int kChecksTop = 90;
-constexpr int kNoteTop = 114;
-constexpr int kRowHeight = 20;
+constexpr int kLabelRight = 80; // room for "Time Format:" and "Date Format:" on one line
+constexpr int kRow = 20;
 constexpr int kDropHeight = 80;
-constexpr int kNoteLines = 3;
-
-void Place(HWND control, int x, int y, int width, int height) {
-    SetWindowPos(control, nullptr, x, y, std::max(0, width), std::max(0, height),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
+constexpr int kNoteHeight = 42; // three lines of the page's text
+const ControlPlace kPlaces[ClockSettingsPage::Count] = {
+    {IDC_CLOCK_STYLE, From::Left, kMargin, From::Right, -kMargin, 10, kRow + kDropHeight},
+    {IDC_CLOCK_TIME_LABEL, From::Left, kMargin, From::Left, kLabelRight, 41, kRow},
+    {IDC_CLOCK_TIME, From::Left, kLabelRight, From::Right, -kMargin, 38, kRow},
+    {IDC_CLOCK_DATE_LABEL, From::Left, kMargin, From::Left, kLabelRight, 67, kRow},
+    {IDC_CLOCK_DATE, From::Left, kLabelRight, From::Right, -kMargin, 64, kRow},
+    {IDC_CLOCK_SHOW_TIME, From::Left, kMargin, From::Middle, 0, 90, kRow},
+    {IDC_CLOCK_SHOW_DATE, From::Middle, 0, From::Right, -kMargin, 90, kRow},
+    {IDC_CLOCK_NOTE, From::Left, kMargin, From::Right, -kMargin, 114, kNoteHeight},
+};
 
 } // namespace
 
@@ -61,26 +59,8 @@ void ClockSettingsPage::Create(HWND host) {
 void ClockSettingsPage::OnSize(const RECT&) {
     if (!m_controls[Style])
         return;
-    const RECT& area = Area();
-    const int left = area.left + ScaleX(kMargin);
-    const int width = (area.right - area.left) - 2 * ScaleX(kMargin);
-    const auto Top = [&area](int units) { return static_cast<int>(area.top) + Scale(units); };
-    const int row = Scale(kRowHeight);
-    const int labelWidth =
-        std::max(WindowTextWidth(m_controls[TimeLabel]), WindowTextWidth(m_controls[DateLabel])) +
-        ScaleX(4);
-    const int editLeft = left + labelWidth;
-    const int labelDrop = Scale(3); // labels sit on the edit boxes' text line
-
-    Place(m_controls[Style], left, Top(kStyleTop), width, row + Scale(kDropHeight));
-    Place(m_controls[TimeLabel], left, Top(kTimeTop) + labelDrop, labelWidth, row);
-    Place(m_controls[Time], editLeft, Top(kTimeTop), width - labelWidth, row);
-    Place(m_controls[DateLabel], left, Top(kDateTop) + labelDrop, labelWidth, row);
-    Place(m_controls[Date], editLeft, Top(kDateTop), width - labelWidth, row);
-    Place(m_controls[ShowTime], left, Top(kChecksTop), width / 2, row);
-    Place(m_controls[ShowDate], left + width / 2, Top(kChecksTop), width - width / 2, row);
-    Place(m_controls[Note], left, Top(kNoteTop), width,
-          kNoteLines * LineHeight(m_controls[Note]) + Scale(2));
+    for (int i = 0; i < Count; ++i)
+        PlaceWindow(m_controls[i], kPlaces[i], Area());
 }
 
 bool ClockSettingsPage::StandardClock() const {

@@ -2,14 +2,16 @@
 
 #include <vector>
 
+#include "store/config_sections.h"
 #include "store/paths.h"
 
 namespace cv2 {
 
 const wchar_t* const kAppearanceSections[kAppearanceSectionCount] = {
-    L"Skin Info",     L"Button Images",   L"Topbar",     L"Today Menubar", L"Menubar",
-    L"Volume Bubble", L"Start Menu Skin", L"Clock Font", L"Title Font",    L"Small Clock Font",
-    L"Buttons",       L"Sounds",          L"Task Panel", L"SoftKey"};
+    config::kSkinInfo,  config::kButtonImages,   config::kTopbar,        config::kTodayMenubar,
+    config::kMenubar,   config::kVolumeBubble,   config::kStartMenuSkin, config::kClockFont,
+    config::kTitleFont, config::kSmallClockFont, config::kButtons,       config::kSounds,
+    config::kTaskPanel, config::kSoftKey};
 
 namespace {
 
@@ -23,24 +25,24 @@ struct ImageRow {
 };
 
 const ImageRow kImages[] = {
-    {L"Logo", L"Button Images", L"Start Menu Normal"},
-    {L"Close", L"Button Images", L"Close Normal"},
-    {L"TapHoldClose", L"Button Images", L"Close Pressed"},
-    {L"OK", L"Button Images", L"OK Normal"},
-    {L"TapHoldOK", L"Button Images", L"OK Pressed"},
-    {L"Notification", L"Button Images", L"Notify Normal"},
-    {L"VolumeOn", L"Button Images", L"Volume Normal"},
-    {L"VolumeOff", L"Button Images", L"Mute Normal"},
-    {L"Battery/Memory", L"Button Images", L"Battery/Memory Normal"},
-    {L"Home", L"Button Images", L"Home Normal"},
-    {L"Menu", L"Button Images", L"Menu Normal"},
-    {L"Custom1", L"Button Images", L"Custom1 Normal"},
-    {L"Custom2", L"Button Images", L"Custom2 Normal"},
-    {L"Connected", L"Button Images", L"Connection Normal"},
-    {L"Disconnected", L"Button Images", L"Disconnect Normal"},
-    {L"Taskbar", L"Topbar", L"Portrait"},
-    {L"Menubar", L"Today Menubar", L"Portrait"},
-    {L"SIPButton", L"Button Images", L"SIP Normal"},
+    {L"Logo", config::kButtonImages, L"Start Menu Normal"},
+    {L"Close", config::kButtonImages, L"Close Normal"},
+    {L"TapHoldClose", config::kButtonImages, L"Close Pressed"},
+    {L"OK", config::kButtonImages, L"OK Normal"},
+    {L"TapHoldOK", config::kButtonImages, L"OK Pressed"},
+    {L"Notification", config::kButtonImages, L"Notify Normal"},
+    {L"VolumeOn", config::kButtonImages, L"Volume Normal"},
+    {L"VolumeOff", config::kButtonImages, L"Mute Normal"},
+    {L"Battery/Memory", config::kButtonImages, L"Battery/Memory Normal"},
+    {L"Home", config::kButtonImages, L"Home Normal"},
+    {L"Menu", config::kButtonImages, L"Menu Normal"},
+    {L"Custom1", config::kButtonImages, L"Custom1 Normal"},
+    {L"Custom2", config::kButtonImages, L"Custom2 Normal"},
+    {L"Connected", config::kButtonImages, L"Connection Normal"},
+    {L"Disconnected", config::kButtonImages, L"Disconnect Normal"},
+    {L"Taskbar", config::kTopbar, L"Portrait"},
+    {L"Menubar", config::kTodayMenubar, L"Portrait"},
+    {L"SIPButton", config::kButtonImages, L"SIP Normal"},
 };
 
 struct FontRow {
@@ -49,9 +51,9 @@ struct FontRow {
 };
 
 const FontRow kFonts[] = {
-    {L"ClockFont", L"Clock Font"},
-    {L"TitleFont", L"Title Font"},
-    {L"SmallClockFont", L"Small Clock Font"},
+    {L"ClockFont", config::kClockFont},
+    {L"TitleFont", config::kTitleFont},
+    {L"SmallClockFont", config::kSmallClockFont},
 };
 
 bool IsTrimmed(wchar_t c) {
@@ -108,7 +110,7 @@ void CopyImages(const IniDocument& source, IniDocument& target) {
         target.SetString(row.section, row.key, value.c_str());
         // The old menu bar picture was always stretched to the bar.
         if (EqualsNoCase(row.sourceKey, L"Menubar"))
-            target.SetString(L"Today Menubar", L"Mode", L"scaled");
+            target.SetString(config::kTodayMenubar, L"Mode", L"scaled");
     }
 }
 
@@ -124,7 +126,7 @@ void CopyFonts(const IniDocument& source, IniDocument& target) {
 }
 
 void SetColorKey(IniDocument& target, const wchar_t* key, long value) {
-    target.SetInt(L"Topbar", key, static_cast<int>(value));
+    target.SetInt(config::kTopbar, key, static_cast<int>(value));
 }
 
 // The mode words differ in case from row to row; the bar reads them as written here.
@@ -132,16 +134,16 @@ void CopyBackground(const IniDocument& source, IniDocument& target,
                     const OlderThemeColors& colors) {
     const std::wstring mode = source.GetString(kFlat, L"BGMode", L"File");
     if (EqualsNoCase(mode.c_str(), L"File")) {
-        target.SetString(L"Topbar", L"Mode", L"Scaled");
+        target.SetString(config::kTopbar, L"Mode", L"Scaled");
     } else if (EqualsNoCase(mode.c_str(), L"2002")) {
-        target.SetString(L"Topbar", L"Mode", L"Gradient");
-        target.SetBool(L"Topbar", L"Use Theme Colors", true);
+        target.SetString(config::kTopbar, L"Mode", L"Gradient");
+        target.SetBool(config::kTopbar, L"Use Theme Colors", true);
     } else if (EqualsNoCase(mode.c_str(), L"gradient")) {
-        target.SetString(L"Topbar", L"Mode", L"Gradient");
+        target.SetString(config::kTopbar, L"Mode", L"Gradient");
         SetColorKey(target, L"Left Color", source.GetInt(kFlat, L"LeftGrad", colors.themeColor0));
         SetColorKey(target, L"Right Color", source.GetInt(kFlat, L"RightGrad", colors.themeColor1));
     } else if (EqualsNoCase(mode.c_str(), L"solid")) {
-        target.SetString(L"Topbar", L"Mode", L"color");
+        target.SetString(config::kTopbar, L"Mode", L"color");
         SetColorKey(target, L"Solid Color",
                     source.GetInt(kFlat, L"SolidColor", colors.activeCaption));
     }
@@ -180,9 +182,9 @@ std::wstring OlderFontStyle(const OlderFont& font) {
 void ConvertOlderTheme(const IniDocument& source, IniDocument& target,
                        const OlderThemeColors& colors) {
     DeleteConvertedSections(target);
-    target.SetBool(L"Skin Info", L"HiRes", false);
+    target.SetBool(config::kSkinInfo, L"HiRes", false);
     CopyImages(source, target);
-    target.SetBool(L"Button Images", L"Battery/Memory Custom",
+    target.SetBool(config::kButtonImages, L"Battery/Memory Custom",
                    source.GetBool(kFlat, L"CustomBatteryColor", false));
     CopyFonts(source, target);
     CopyBackground(source, target, colors);

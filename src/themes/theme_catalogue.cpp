@@ -7,7 +7,7 @@
 namespace cv2 {
 namespace {
 
-const wchar_t kSkinInfo[] = L"Skin Info";
+const wchar_t* const kSkinInfo = config::kSkinInfo;
 
 } // namespace
 

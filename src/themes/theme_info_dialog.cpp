@@ -3,6 +3,7 @@
 #include <new>
 
 #include "ids_editor.h"
+#include "store/config_sections.h"
 #include "store/strings.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
@@ -140,10 +141,10 @@ IniDocument* AskThemeInfo(ThemeInfo& info, HWND parent) {
     if (!doc)
         return nullptr;
     doc->Load(info.path); // an absent file leaves the document empty, bound to the path
-    doc->SetString(L"Skin Info", L"Author", info.author);
-    doc->SetString(L"Skin Info", L"AuthorEmail", info.email);
-    doc->SetString(L"Skin Info", L"Name", info.name);
-    doc->SetBool(L"Skin Info", L"HiRes", info.hiRes);
+    doc->SetString(config::kSkinInfo, L"Author", info.author);
+    doc->SetString(config::kSkinInfo, L"AuthorEmail", info.email);
+    doc->SetString(config::kSkinInfo, L"Name", info.name);
+    doc->SetBool(config::kSkinInfo, L"HiRes", info.hiRes);
     return doc;
 }
 

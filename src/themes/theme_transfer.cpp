@@ -2,18 +2,14 @@
 
 #include <unordered_map>
 
+#include "store/config_sections.h"
 #include "store/paths.h"
 
 namespace cv2 {
-namespace {
-
-const wchar_t kCustomNotifications[] = L"Custom Notifications";
-const wchar_t kNotifyPrefix[] = L"Notify.";
-
-} // namespace
+namespace {} // namespace
 
 bool IsCurrentFormat(const IniDocument& theme) {
-    return theme.HasSection(L"Skin Info");
+    return theme.HasSection(config::kSkinInfo);
 }
 
 ImportedAs ImportTheme(IniDocument& edited, const IniDocument& chosen,
@@ -30,7 +26,7 @@ std::vector<std::wstring> CustomNotificationNames(const IniDocument& doc) {
     // One pass over the section instead of one search per key: the first entry of a key wins,
     // as it does for a look-up by key.
     std::unordered_map<std::wstring, std::wstring> byKey;
-    for (const IniDocument::EntryRef& e : doc.GetSectionEntries(kCustomNotifications))
+    for (const IniDocument::EntryRef& e : doc.GetSectionEntries(config::kCustomNotifications))
         byKey.emplace(e.first, e.second);
     std::vector<std::wstring> names;
     for (size_t i = 0;; ++i) {
@@ -45,8 +41,8 @@ void ImportCurrentFormat(IniDocument& edited, const IniDocument& chosen) {
     std::vector<std::wstring> doomed(kAppearanceSections,
                                      kAppearanceSections + kAppearanceSectionCount);
     for (const std::wstring& name : CustomNotificationNames(edited))
-        doomed.push_back(kNotifyPrefix + name);
-    doomed.push_back(kCustomNotifications);
+        doomed.push_back(config::kNotifyPrefix + name);
+    doomed.push_back(config::kCustomNotifications);
     edited.DeleteSections(doomed);
     edited.MergeFrom(chosen, true);
 }
@@ -57,8 +53,8 @@ std::wstring ExportFolder(const std::wstring& themePath) {
 }
 
 void FinishExport(IniDocument& exported, const IniDocument& edited) {
-    for (const IniDocument::EntryRef& e : edited.GetSectionEntries(L"Task Panel"))
-        exported.SetString(L"Task Panel", e.first, e.second);
+    for (const IniDocument::EntryRef& e : edited.GetSectionEntries(config::kTaskPanel))
+        exported.SetString(config::kTaskPanel, e.first, e.second);
     exported.MakePathsRelative(ExportFolder(exported.Path()));
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "store/config_sections.h"
 #include "ui/backgrounds/background_record.h"
 
 namespace cv2 {
@@ -64,10 +65,11 @@ constexpr auto kSoftKeyKeys = WithBackground(kSoftKeyExtra);
 
 } // namespace
 
-const SettingSection kTopbarSection = SectionOf(L"Topbar", kBackgroundKeys);
-const SettingSection kTodayMenubarSection = BarSection(L"Today Menubar", kTodayKeys, &kBarFont);
-const SettingSection kMenubarSection = BarSection(L"Menubar", kMenubarKeys, &kBarFont);
-const SettingSection kSoftKeySection = BarSection(L"SoftKey", kSoftKeyKeys);
+const SettingSection kTopbarSection = SectionOf(config::kTopbar, kBackgroundKeys);
+const SettingSection kTodayMenubarSection =
+    BarSection(config::kTodayMenubar, kTodayKeys, &kBarFont);
+const SettingSection kMenubarSection = BarSection(config::kMenubar, kMenubarKeys, &kBarFont);
+const SettingSection kSoftKeySection = BarSection(config::kSoftKey, kSoftKeyKeys);
 
 BackgroundFill FillOf(const SettingValues& values) {
     BackgroundFill fill;

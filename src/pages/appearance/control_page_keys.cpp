@@ -1,5 +1,6 @@
 #include "pages/appearance/control_page_keys.h"
 
+#include "store/config_sections.h"
 namespace cv2 {
 namespace {
 
@@ -78,9 +79,10 @@ const SettingKey kNotifyImageKeys[] = {
 
 } // namespace
 
-const SettingSection kAppButtonsSection = SectionOf(L"Buttons", kAppButtonKeys, &kAppButtonFont);
+const SettingSection kAppButtonsSection =
+    SectionOf(config::kButtons, kAppButtonKeys, &kAppButtonFont);
 
-const SettingSection kSystemColorsSection = SectionOf(L"Colors", kSystemColorKeys);
+const SettingSection kSystemColorsSection = SectionOf(config::kColors, kSystemColorKeys);
 const StringId kSystemColorNames[kSystemColorCount] = {
     IDS_SYS_ACTIVE_CAPTION,
     IDS_SYS_INACTIVE_CAPTION,
@@ -103,11 +105,12 @@ const StringId kSystemColorNames[kSystemColorCount] = {
     IDS_SYS_STATIC_TEXT,
 };
 
-const SettingSection kTitleFontSection = FontSectionOf(L"Title Font", &kTopBarFont);
-const SettingSection kClockFontSection = FontSectionOf(L"Clock Font", &kTopBarFont);
-const SettingSection kSmallClockFontSection = FontSectionOf(L"Small Clock Font", &kSmallClockFont);
+const SettingSection kTitleFontSection = FontSectionOf(config::kTitleFont, &kTopBarFont);
+const SettingSection kClockFontSection = FontSectionOf(config::kClockFont, &kTopBarFont);
+const SettingSection kSmallClockFontSection =
+    FontSectionOf(config::kSmallClockFont, &kSmallClockFont);
 
-const SettingSection kSoundsSection = SectionOf(L"Sounds", kSoundKeys);
+const SettingSection kSoundsSection = SectionOf(config::kSounds, kSoundKeys);
 // The first twelve events are numbered in a run; the reminder came later.
 const StringId kSoundEventNames[kSoundEventCount] = {
     IDS_SOUND_CLOSE,    IDS_SOUND_MAXIMIZE,    IDS_SOUND_MENU_COMMAND, IDS_SOUND_MENU_POPUP,
@@ -116,6 +119,6 @@ const StringId kSoundEventNames[kSoundEventCount] = {
     IDS_SOUND_REMINDER,
 };
 
-const SettingSection kNotifyImagesSection = SectionOf(L"Notify.*", kNotifyImageKeys);
+const SettingSection kNotifyImagesSection = SectionOf(config::kNotifySections, kNotifyImageKeys);
 
 } // namespace cv2

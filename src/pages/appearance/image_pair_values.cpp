@@ -1,5 +1,6 @@
 #include "pages/appearance/image_pair_values.h"
 
+#include "store/config_sections.h"
 namespace cv2 {
 namespace {
 
@@ -13,7 +14,7 @@ constexpr SettingKey kVolumeBubbleKeys[] = {
 
 } // namespace
 
-const SettingSection kCheckRadioSection = SectionOf(L"Buttons", kCheckRadioKeys);
-const SettingSection kVolumeBubbleSection = SectionOf(L"Volume Bubble", kVolumeBubbleKeys);
+const SettingSection kCheckRadioSection = SectionOf(config::kButtons, kCheckRadioKeys);
+const SettingSection kVolumeBubbleSection = SectionOf(config::kVolumeBubble, kVolumeBubbleKeys);
 
 } // namespace cv2

@@ -1,13 +1,12 @@
 #include "pages/appearance/notification_list.h"
 
 #include "pages/appearance/control_page_keys.h"
+#include "store/config_sections.h"
 #include "store/paths.h"
 #include "themes/theme_transfer.h"
 
 namespace cv2 {
 namespace {
-
-const wchar_t kCustomNotifications[] = L"Custom Notifications";
 
 // A section header ends at its first "]": a title holding one is written whole but reads back
 // as the part before it. The pictures are looked for under both names and both are removed
@@ -20,9 +19,7 @@ std::wstring ReadBackName(const std::wstring& section) {
 } // namespace
 
 std::wstring NotifySectionOf(const std::wstring& title) {
-    std::wstring name = kNotifyImagesSection.name;
-    name.pop_back(); // the "*" that stands for the title
-    return name + title;
+    return config::kNotifyPrefix + title;
 }
 
 CustomNotification CutToBuffers(const CustomNotification& entry) {
@@ -54,7 +51,7 @@ void WriteCustomNotifications(IniDocument& doc, const std::vector<CustomNotifica
         if (title.find(L']') != std::wstring::npos)
             doomed.push_back(ReadBackName(doomed.back()));
     }
-    doomed.push_back(kCustomNotifications);
+    doomed.push_back(config::kCustomNotifications);
     doc.DeleteSections(doomed);
     const SettingKey* keys = kNotifyImagesSection.keys;
     for (size_t i = 0; i < entries.size(); ++i) {
@@ -62,7 +59,8 @@ void WriteCustomNotifications(IniDocument& doc, const std::vector<CustomNotifica
         const std::wstring section = NotifySectionOf(entry.title);
         doc.SetString(section.c_str(), keys[kNotifyNormal].key, entry.normalImage.c_str());
         doc.SetString(section.c_str(), keys[kNotifyPressed].key, entry.pressedImage.c_str());
-        doc.SetString(kCustomNotifications, std::to_wstring(i).c_str(), entry.title.c_str());
+        doc.SetString(config::kCustomNotifications, std::to_wstring(i).c_str(),
+                      entry.title.c_str());
     }
 }
 

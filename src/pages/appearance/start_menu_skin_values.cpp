@@ -1,5 +1,6 @@
 #include "pages/appearance/start_menu_skin_values.h"
 
+#include "store/config_sections.h"
 namespace cv2 {
 namespace {
 
@@ -28,7 +29,7 @@ constexpr FontDefault kMenuFont = {L"Tahoma", 8, 0, 0, L"bold"};
 
 } // namespace
 
-const SettingSection kStartMenuSkinSection = SectionOf(L"Start Menu Skin", kKeys, &kMenuFont);
+const SettingSection kStartMenuSkinSection = SectionOf(config::kStartMenuSkin, kKeys, &kMenuFont);
 
 StartMenuLook LookOf(const SettingValues& values) {
     StartMenuLook look;

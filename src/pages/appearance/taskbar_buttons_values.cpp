@@ -1,5 +1,6 @@
 #include "pages/appearance/taskbar_buttons_values.h"
 
+#include "store/config_sections.h"
 #include <string>
 #include <vector>
 
@@ -46,7 +47,7 @@ struct ButtonImagesTable {
             keys.push_back({name.c_str(), SettingType::Path});
         keys.push_back({L"Battery/Memory Custom", SettingType::Boolean, L"FALSE"});
         keys.push_back({L"Signal Strength Custom", SettingType::Boolean, L"FALSE"});
-        section = {L"Button Images", keys.data(), keys.size(), nullptr};
+        section = {config::kButtonImages, keys.data(), keys.size(), nullptr};
     }
 };
 

@@ -5,12 +5,13 @@
 #include <new>
 
 #include "pages/behaviour/button_order_values.h"
+#include "store/config_sections.h"
 #include "store/paths.h"
 
 namespace cv2 {
 namespace {
 
-constexpr wchar_t kImagesSection[] = L"Button Images";
+constexpr const wchar_t* kImagesSection = config::kButtonImages;
 
 std::wstring ImageKey(const wchar_t* name, const wchar_t* which) {
     return std::wstring(name) + L" " + which;

@@ -6,6 +6,8 @@
 #include "file_browser_support.h"
 #include "ids_editor.h"
 #include "ids_ui.h"
+#include "pages/appearance/image_pair_pages.h"
+#include "platform/file_access.h"
 #include "temp_folder.h"
 #include "theme_editor_support.h"
 #include "themes/import_theme_page.h"
@@ -224,4 +226,55 @@ TEST_F(ImportThemePageTest, AFileWithoutSkinInfoIsConvertedAsAnOlderTheme) {
     RunEditor([&](HWND dlg) { ImportThrough(dlg, dir.File(L"old.skin")); }, IDCANCEL);
     EXPECT_FALSE(doc.HasSection(L"Sounds")) << "the conversion replaced the appearance sections";
     EXPECT_EQ(doc.GetString(L"Test", L"A", L""), L"edited");
+}
+
+namespace {
+
+// Every text a message box shows, one after another.
+std::wstring MessageTextOf(HWND box) {
+    std::wstring text;
+    for (HWND c = GetWindow(box, GW_CHILD); c; c = GetWindow(c, GW_HWNDNEXT)) {
+        wchar_t cls[16] = {};
+        GetClassNameW(c, cls, 16);
+        wchar_t shown[1024] = {};
+        if (lstrcmpiW(cls, L"Static") == 0 && GetWindowTextW(c, shown, 1024) > 0)
+            text += shown;
+    }
+    return text;
+}
+
+} // namespace
+
+TEST_F(ImportThemePageTest, ExportThatCannotCopyAPictureSaysSoAndStillWritesTheWholeTheme) {
+    dir.Write(L"bubble.png", "png");
+    doc.SetString(L"Volume Bubble", L"Image", dir.File(L"bubble.png").c_str());
+    CreateDirectoryW(dir.File(L"out").c_str(), nullptr);
+    // Another program holds the picture open without sharing it: it cannot be read.
+    HANDLE held = CreateFileW(dir.File(L"bubble.png").c_str(), GENERIC_READ, 0, nullptr,
+                              OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    std::wstring told;
+    ThemeEditor editor(&doc, {new ImportThemePage, NewImagePairPage(ImagePairKind::VolumeBubble)});
+    DialogDriver::OnNextDialog(
+        [&](HWND dlg) {
+            DialogDriver::OnNextDialog(
+                [&](HWND info) {
+                    FillInfo(info, dir.File(L"out\\shared.skin"));
+                    cv2test::Tick(info, IDC_INFO_COPY_FILES);
+                    DialogDriver::OnNextDialog([&](HWND box) { told = MessageTextOf(box); },
+                                               IDOK);
+                },
+                IDOK);
+            DialogDriver::Click(dlg, IDC_EXPORT_THEME);
+        },
+        IDCANCEL);
+    editor.Run(host);
+    CloseHandle(held);
+    EXPECT_NE(told.find(dir.File(L"bubble.png")), std::wstring::npos) << "told: " << told.c_str();
+    IniDocument written;
+    ASSERT_TRUE(written.Load(dir.File(L"out\\shared.skin")));
+    EXPECT_EQ(written.GetString(L"Volume Bubble", L"Image", L""), dir.File(L"bubble.png"))
+        << "a file that was not copied keeps its path";
+    EXPECT_EQ(written.GetString(L"Skin Info", L"Name", L""), L"Blue Glass");
+    EXPECT_FALSE(cv2::FileExists(dir.File(L"out\\bubble.png")));
 }

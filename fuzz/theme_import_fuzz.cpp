@@ -18,6 +18,14 @@ size_t Count(const cv2::IniDocument& doc, const wchar_t* name) {
     return count;
 }
 
+// Whether any section of that name holds a key: a merge takes the keys of every one of them.
+bool AnyKeys(const cv2::IniDocument& doc, const wchar_t* name) {
+    for (const cv2::IniDocument::Section& s : doc.Sections())
+        if (cv2::EqualsNoCase(s.name.c_str(), name) && !s.entries.empty())
+            return true;
+    return false;
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
@@ -38,8 +46,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (current && !chosen.GetSectionEntries(L"Skin Info").empty() &&
         !edited.HasSection(L"Skin Info"))
         std::abort();
-    // The chosen theme's list then merges into the survivor, or makes the section anew.
-    const size_t chosenLists = chosen.GetSectionEntries(L"Custom Notifications").empty() ? 0 : 1;
+    // The chosen theme's lists (all sections of the name, an empty first one included) then
+    // merge into the survivor, or make the section anew.
+    const size_t chosenLists = AnyKeys(chosen, L"Custom Notifications") ? 1 : 0;
     if (current && listsBefore > 0 &&
         Count(edited, L"Custom Notifications") != std::max(listsBefore - 1, chosenLists))
         std::abort();

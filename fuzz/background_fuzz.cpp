@@ -8,9 +8,16 @@
 
 namespace {
 
+// A file never keeps a value's trailing blanks (the reader trims them), and a path cut to its
+// buffer can end in some: paths are compared without them.
+std::wstring Kept(const std::wstring& value) {
+    return value.substr(0, value.find_last_not_of(L" \t") + 1);
+}
+
 bool Same(const cv2::BackgroundRecord& a, const cv2::BackgroundRecord& b) {
-    return a.portraitImage == b.portraitImage && a.landscapeImage == b.landscapeImage &&
-           a.mode == b.mode && a.solidColor == b.solidColor && a.leftColor == b.leftColor &&
+    return Kept(a.portraitImage) == Kept(b.portraitImage) &&
+           Kept(a.landscapeImage) == Kept(b.landscapeImage) && a.mode == b.mode &&
+           a.solidColor == b.solidColor && a.leftColor == b.leftColor &&
            a.rightColor == b.rightColor && a.useThemeColors == b.useThemeColors;
 }
 

@@ -38,6 +38,8 @@ SettingsApp::SettingsApp(HINSTANCE instance, const std::wstring& configPath,
     }
     CreateMenuBar(instance);
     SelectPage(0);
+    // Shown once its first page is in place; the other pages are made after the first paint.
+    ShowWindow(m_hwnd, SW_SHOW);
 }
 
 SettingsApp::~SettingsApp() {
@@ -61,9 +63,9 @@ void SettingsApp::CreateMainWindow(HINSTANCE instance) {
 
     RECT wa;
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &wa, 0);
-    CreateWindowExW(0, kWindowClass, Localized(IDS_APP_TITLE), WS_POPUP | WS_VISIBLE, wa.left,
-                    wa.top, wa.right - wa.left, wa.bottom - wa.top - MenuBarHeight(), nullptr,
-                    nullptr, instance, this);
+    CreateWindowExW(0, kWindowClass, Localized(IDS_APP_TITLE), WS_POPUP, wa.left, wa.top,
+                    wa.right - wa.left, wa.bottom - wa.top - MenuBarHeight(), nullptr, nullptr,
+                    instance, this);
 }
 
 void SettingsApp::CreateMenuBar(HINSTANCE instance) {
@@ -114,7 +116,7 @@ void SettingsApp::OnCreate(HWND hwnd) {
     SHDoneButton(hwnd, SHDB_SHOW);
     m_hwnd = hwnd;
     CreateSharedFonts();
-    m_host.BuildPages(hwnd, &m_config);
+    m_host.BuildPages(hwnd, &m_config, PageHost::Making::RestAfterFirstPaint);
     SetWindowPos(hwnd, nullptr, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }

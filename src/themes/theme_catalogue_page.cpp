@@ -126,6 +126,23 @@ void ThemeCataloguePage::Load(IniDocument* doc) {
 void ThemeCataloguePage::Reload() {
     if (!Doc() || !m_controls[List])
         return;
+    if (!IsWindowVisible(m_host)) {
+        m_fillPending = true;
+        return;
+    }
+    m_fillPending = false;
+    Fill();
+    SelectThemeFile();
+}
+
+void ThemeCataloguePage::OnHostShown() {
+    FinishPendingFill();
+}
+
+void ThemeCataloguePage::FinishPendingFill() {
+    if (!m_fillPending)
+        return;
+    m_fillPending = false;
     Fill();
     SelectThemeFile();
 }
@@ -278,6 +295,8 @@ void ThemeCataloguePage::ShowDetailsBox() const {
 void ThemeCataloguePage::Save(IniDocument* target) {
     if ((!target && !Doc()) || !m_controls[List])
         return;
+    // Apply before the list was filled still stores the theme config.ini names.
+    FinishPendingFill();
     IniDocument& doc = SaveTarget(target);
     const std::wstring configPath = Doc() ? Doc()->Path() : doc.Path();
     bool customTheme = false;
@@ -299,6 +318,7 @@ void ThemeCataloguePage::Save(IniDocument* target) {
 }
 
 void ThemeCataloguePage::OnDestroy() {
+    m_fillPending = false;
     DestroyWindows(m_controls, Count);
     m_entries.clear();
 }

@@ -30,13 +30,18 @@ class ThemeCataloguePage : public SettingsPage {
     void OnSize(const RECT& client) override;
 
     // Lists the themes anew and selects the one config.ini names (the theme folders may have
-    // changed). Does nothing before Load.
+    // changed). Does nothing before Load. While the host window has not been shown yet (the
+    // program is starting), the list is filled once the window has painted instead, so the
+    // window shows at once however many themes there are.
     void Reload();
+    void OnHostShown() override;
 
     enum Control { List, Customize, Delete, DetailsText, DetailsButton, Count };
     HWND Window(Control c) const { return m_controls[c]; }
 
   private:
+    // Fills the list now if a deferred Reload has not yet.
+    void FinishPendingFill();
     void Fill();
     void SelectThemeFile();
     // The entry of the selected row; null for "Custom Theme" and when nothing is selected.
@@ -50,6 +55,7 @@ class ThemeCataloguePage : public SettingsPage {
     std::wstring m_programFolder;
     HWND m_host = nullptr;
     HWND m_controls[Count] = {};
+    bool m_fillPending = false;
     // Owned here; the list rows point at them.
     std::vector<std::unique_ptr<ThemeEntry>> m_entries;
 };

@@ -12,6 +12,10 @@ const COLORREF kHeaderLeft = 0xFFEFDE;
 const COLORREF kHeaderRight = 0xE7AD84;
 const int kPageBackground = 25; // the device's static-control background colour
 
+// The host window's property that leads its after-paint timer back to the host.
+const wchar_t kHostProperty[] = L"CV2PageHost";
+const UINT_PTR kAfterPaintTimer = 0xC2;
+
 void FillGradient(HDC dc, const RECT& r, COLORREF left, COLORREF right) {
     TRIVERTEX v[2] = {};
     v[0].x = r.left;
@@ -71,20 +75,36 @@ SettingsPage* PageHost::Page(int index) const {
     return index >= 0 && index < PageCount() ? m_pages[static_cast<size_t>(index)] : nullptr;
 }
 
-void PageHost::BuildPages(HWND window, IniDocument* doc) {
+void PageHost::BuildPages(HWND window, IniDocument* doc, Making making) {
     m_hwnd = window;
+    m_doc = doc;
+    m_created = 0;
+    m_painted = false;
+    SetPropW(window, kHostProperty, this);
     m_pageMenu = CreatePopupMenu();
     RECT client;
     GetClientRect(window, &client);
-    const RECT area = PageArea(client.right, client.bottom);
+    m_area = PageArea(client.right, client.bottom);
     for (int i = 0; i < PageCount(); ++i) {
-        SettingsPage* page = m_pages[static_cast<size_t>(i)];
+        if (SettingsPage* page = m_pages[static_cast<size_t>(i)])
+            AppendMenuW(m_pageMenu, MF_STRING, static_cast<UINT_PTR>(i + 1), page->GetName());
+    }
+    if (making == Making::AllAtOnce)
+        CreatePagesUpTo(PageCount() - 1);
+}
+
+void PageHost::CreatePagesUpTo(int index) {
+    if (!m_hwnd)
+        return;
+    while (m_created <= index && m_created < PageCount()) {
+        SettingsPage* page = m_pages[static_cast<size_t>(m_created)];
+        // Counted first: a page hears the commands its own controls send while it is made.
+        ++m_created;
         if (!page)
             continue;
-        GiveArea(*page, area);
-        page->Create(window);
-        page->Load(doc);
-        AppendMenuW(m_pageMenu, MF_STRING, static_cast<UINT_PTR>(i + 1), page->GetName());
+        GiveArea(*page, m_area);
+        page->Create(m_hwnd);
+        page->Load(m_doc);
     }
 }
 
@@ -94,13 +114,14 @@ void PageHost::SelectPage(int index) {
     SettingsPage* next = Page(index);
     if (!next || next == m_current)
         return;
+    CreatePagesUpTo(index);
     if (m_current) {
         m_current->OnDeactivate();
         MarkActive(*m_current, false);
     }
     MarkActive(*next, true);
     next->OnActivate();
-    for (int i = 0; i < PageCount(); ++i) {
+    for (int i = 0; i < m_created; ++i) {
         if (SettingsPage* page = m_pages[static_cast<size_t>(i)])
             page->Show(i == index);
     }
@@ -171,6 +192,12 @@ bool PageHost::HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam, LRESULT& re
         return true;
     case WM_PAINT:
         Paint();
+        if (!m_painted) {
+            // A timer fires only when no message and no paint is waiting: after every control
+            // has painted too.
+            m_painted = true;
+            SetTimer(m_hwnd, kAfterPaintTimer, 0, AfterFirstPaint);
+        }
         return true;
     case WM_LBUTTONDOWN:
         TrackPageMenu(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
@@ -182,51 +209,68 @@ bool PageHost::HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam, LRESULT& re
     return false;
 }
 
+std::vector<SettingsPage*> PageHost::CreatedPages() const {
+    std::vector<SettingsPage*> made;
+    for (int i = 0; i < m_created; ++i) {
+        if (SettingsPage* page = m_pages[static_cast<size_t>(i)])
+            made.push_back(page);
+    }
+    return made;
+}
+
 bool PageHost::DispatchCommand(WPARAM wParam, LPARAM lParam) {
-    for (SettingsPage* page : m_pages) {
-        if (page && page->OnCommand(wParam, lParam))
+    for (SettingsPage* page : CreatedPages()) {
+        if (page->OnCommand(wParam, lParam))
             return true;
     }
     return false;
 }
 
 void PageHost::DispatchNotify(WPARAM wParam, LPARAM lParam) {
-    for (SettingsPage* page : m_pages) {
-        if (page)
-            page->OnNotify(wParam, lParam);
-    }
+    for (SettingsPage* page : CreatedPages())
+        page->OnNotify(wParam, lParam);
 }
 
 void PageHost::DispatchSize(int width, int height) {
     const RECT client = {0, 0, width, height};
-    const RECT area = PageArea(width, height);
+    m_area = PageArea(width, height);
     for (SettingsPage* page : m_pages) {
-        if (!page)
-            continue;
-        GiveArea(*page, area);
-        page->OnSize(client);
+        if (page)
+            GiveArea(*page, m_area);
     }
+    for (SettingsPage* page : CreatedPages())
+        page->OnSize(client);
 }
 
 void PageHost::SaveAll(IniDocument* target) {
-    for (SettingsPage* page : m_pages) {
-        if (page)
-            page->Save(target);
-    }
+    CreatePagesUpTo(PageCount() - 1);
+    for (SettingsPage* page : CreatedPages())
+        page->Save(target);
 }
 
 void PageHost::LoadAll(IniDocument* doc) {
-    for (SettingsPage* page : m_pages) {
-        if (page)
-            page->Load(doc);
-    }
+    m_doc = doc;
+    for (SettingsPage* page : CreatedPages())
+        page->Load(doc);
 }
 
 void PageHost::DestroyAll() {
-    for (SettingsPage* page : m_pages) {
-        if (page)
-            page->OnDestroy();
+    if (m_hwnd) {
+        KillTimer(m_hwnd, kAfterPaintTimer);
+        RemovePropW(m_hwnd, kHostProperty);
     }
+    for (SettingsPage* page : CreatedPages())
+        page->OnDestroy();
+}
+
+void CALLBACK PageHost::AfterFirstPaint(HWND window, UINT, UINT_PTR timer, DWORD) {
+    KillTimer(window, timer);
+    auto* host = static_cast<PageHost*>(GetPropW(window, kHostProperty));
+    if (!host)
+        return;
+    host->CreatePagesUpTo(host->PageCount() - 1);
+    for (SettingsPage* page : host->CreatedPages())
+        page->OnHostShown();
 }
 
 } // namespace cv2

@@ -20,9 +20,18 @@ class PageHost {
 
     // Takes ownership; a null page (failed allocation) keeps its place and is skipped.
     void AddPage(SettingsPage* page);
-    // Creates every page's controls on `window`, loads it from `doc` and lists it in the page
-    // menu (item id = index + 1).
-    void BuildPages(HWND window, IniDocument* doc);
+    // When the pages' controls are made: all in BuildPages, or only those shown before the
+    // window's first paint and the rest just after it, so the window shows at the cost of its
+    // first page.
+    enum class Making { AllAtOnce, RestAfterFirstPaint };
+    // Binds the pages to `window` and `doc`, lists them in the page menu (item id = index + 1)
+    // and makes their controls, loaded from `doc`, as `making` says.
+    void BuildPages(HWND window, IniDocument* doc, Making making = Making::AllAtOnce);
+    // Makes and loads the controls of every page up to `index` that has none yet, in order:
+    // some pages read what earlier ones loaded.
+    void CreatePagesUpTo(int index);
+    // How many pages, from the first, have their controls.
+    int CreatedCount() const { return m_created; }
     // Makes page `index` current: radio mark, deactivate/activate, show/hide, repaint.
     void SelectPage(int index);
     // A tap in the right half of the header strip opens the page menu; true when it opened.
@@ -37,11 +46,14 @@ class PageHost {
     // the answer); notifications go to every page and still get default processing.
     bool HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam, LRESULT& result);
 
-    // Offers a command to the pages in order until one takes it.
+    // The messages go to the pages that have controls. Offers a command to them in order until
+    // one takes it.
     bool DispatchCommand(WPARAM wParam, LPARAM lParam);
     void DispatchNotify(WPARAM wParam, LPARAM lParam);
     void DispatchSize(int width, int height);
+    // Every page saves (any page still without controls is made first).
     void SaveAll(IniDocument* target);
+    // Loads the made pages from `doc`; the others load from it when they are made.
     void LoadAll(IniDocument* doc);
     void DestroyAll(); // every page's OnDestroy
 
@@ -56,9 +68,17 @@ class PageHost {
     static void GiveArea(SettingsPage& page, const RECT& area) { page.m_area = area; }
 
   private:
+    std::vector<SettingsPage*> CreatedPages() const;
+    // After the first paint: the remaining pages are made, then every page hears OnHostShown.
+    static void CALLBACK AfterFirstPaint(HWND window, UINT, UINT_PTR timer, DWORD);
+
     HWND m_hwnd = nullptr;
     SettingsPage* m_current = nullptr;
     std::vector<SettingsPage*> m_pages;
+    int m_created = 0; // pages [0, m_created) have their controls
+    bool m_painted = false;
+    IniDocument* m_doc = nullptr;
+    RECT m_area = {};
     HMENU m_pageMenu = nullptr;
 };
 

@@ -8,7 +8,9 @@ SettingsPage::SettingsPage(const wchar_t* fixedName) : m_name(fixedName) {}
 
 SettingsPage::~SettingsPage() = default;
 
-const wchar_t* SettingsPage::GetName() const { return m_name.c_str(); }
+const wchar_t* SettingsPage::GetName() const {
+    return m_name.c_str();
+}
 
 void SettingsPage::Save(IniDocument*) {}
 
@@ -16,17 +18,25 @@ void SettingsPage::Paint(HDC) {}
 
 void SettingsPage::OnDestroy() {}
 
-bool SettingsPage::OnCommand(WPARAM, LPARAM) { return false; }
+bool SettingsPage::OnCommand(WPARAM, LPARAM) {
+    return false;
+}
 
-LRESULT SettingsPage::OnNotify(WPARAM, LPARAM) { return 0; }
+LRESULT SettingsPage::OnNotify(WPARAM, LPARAM) {
+    return 0;
+}
 
-void SettingsPage::Load(IniDocument* doc) { m_doc = doc; }
+void SettingsPage::Load(IniDocument* doc) {
+    m_doc = doc;
+}
 
 void SettingsPage::OnActivate() {}
 
 void SettingsPage::OnDeactivate() {}
 
 void SettingsPage::OnSize(const RECT&) {}
+
+void SettingsPage::OnHostShown() {}
 
 void ShowWindows(HWND const* windows, size_t count, bool visible) {
     for (size_t i = 0; i < count; ++i) {

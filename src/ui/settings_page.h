@@ -41,6 +41,9 @@ class SettingsPage {
     virtual void OnActivate();
     virtual void OnDeactivate();
     virtual void OnSize(const RECT& client);
+    // Once, after the host window's first paint, when every page has its controls: for work
+    // that would keep the window from showing.
+    virtual void OnHostShown();
 
     SettingsPage(const SettingsPage&) = delete;
     SettingsPage& operator=(const SettingsPage&) = delete;

@@ -20,8 +20,9 @@ std::wstring UniqueScratchFolder() {
     GetTempPathW(MAX_PATH, temp);
     static int counter = 0;
     for (;;) {
-        std::wstring dir = std::wstring(temp) + L"cv2e2e-" + std::to_wstring(GetCurrentProcessId()) +
-                           L"-" + std::to_wstring(counter++) + L"\\";
+        std::wstring dir = std::wstring(temp) + L"cv2e2e-" +
+                           std::to_wstring(GetCurrentProcessId()) + L"-" +
+                           std::to_wstring(counter++) + L"\\";
         if (CreateDirectoryW(dir.c_str(), nullptr))
             return dir;
     }
@@ -68,7 +69,9 @@ std::string DeviceFixture::ReadText(const std::wstring& name) const {
     return std::string(bytes.begin(), bytes.end());
 }
 
-bool DeviceFixture::Exists(const std::wstring& name) const { return cv2::FileExists(File(name)); }
+bool DeviceFixture::Exists(const std::wstring& name) const {
+    return cv2::FileExists(File(name));
+}
 
 void DeviceFixture::StartBar() {
     ASSERT_FALSE(FindWindowW(L"HHTaskbar", nullptr)) << "a test bar is already running";
@@ -122,6 +125,12 @@ HWND DeviceFixture::StartEditor() {
     WaitForInputIdle(m_editor.hProcess, 10000);
     WaitFor([&] { return (m_main = FindWindowW(L"CorvaneSettings", nullptr)) != nullptr; }, 20000);
     EXPECT_TRUE(m_main) << "the editor's main window did not appear";
+    // The first page lists the themes just after the window's first paint; a list that is
+    // filled holds at least the custom theme's row.
+    EXPECT_TRUE(WaitFor([&] {
+        HWND list = FindWindowExW(m_main, nullptr, L"ListBox", nullptr);
+        return list && SendMessageW(list, LB_GETCOUNT, 0, 0) > 0;
+    })) << "the themes were not listed";
     return m_main;
 }
 
@@ -188,7 +197,9 @@ void DeviceFixture::SelectPage(int index) {
     SendMessageW(m_main, WM_NULL, 0, 0); // the selection has been handled once this returns
 }
 
-void DeviceFixture::Apply() { SendMessageW(m_main, WM_COMMAND, MAKEWPARAM(40001, 0), 0); }
+void DeviceFixture::Apply() {
+    SendMessageW(m_main, WM_COMMAND, MAKEWPARAM(40001, 0), 0);
+}
 
 void DeviceFixture::Cancel(bool answerYes, bool escape) {
     if (escape)
@@ -196,8 +207,9 @@ void DeviceFixture::Cancel(bool answerYes, bool escape) {
     else
         PostMessageW(m_main, WM_COMMAND, MAKEWPARAM(40002, 0), 0);
     HWND box = nullptr;
-    ASSERT_TRUE(WaitFor([&] { return (box = FindWindowW(L"#32770", L"Cancel Confirmation")) != nullptr; }))
-        << "no cancel confirmation";
+    ASSERT_TRUE(WaitFor([&] {
+        return (box = FindWindowW(L"#32770", L"Cancel Confirmation")) != nullptr;
+    })) << "no cancel confirmation";
     PostMessageW(box, WM_COMMAND, MAKEWPARAM(answerYes ? IDYES : IDNO, BN_CLICKED), 0);
     ASSERT_TRUE(WaitFor([&] { return !IsWindow(box); }));
 }

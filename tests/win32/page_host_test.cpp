@@ -43,6 +43,7 @@ class RecordingPage : public cv2::SettingsPage {
         Log("Notify");
         return 1;
     }
+    void OnHostShown() override { Log("HostShown"); }
     void OnSize(const RECT& r) override {
         Log("Size" + std::to_string(r.left) + "," + std::to_string(r.top) + "," +
             std::to_string(r.right) + "," + std::to_string(r.bottom));
@@ -61,6 +62,23 @@ class PageHostTest : public AppFixture {
     cv2::SettingsApp& MakeThree() {
         return MakeApp({new RecordingPage("A"), new RecordingPage("B"), new RecordingPage("C")});
     }
+    // The window as the user first meets it: painted, and every page made after that.
+    cv2::SettingsApp& MakeThreeShown() {
+        MakeThree();
+        EXPECT_TRUE(PumpUntilEveryPageIsMade());
+        return *m_app;
+    }
+    bool PumpUntilEveryPageIsMade() {
+        const DWORD start = GetTickCount();
+        while (m_app->Host().CreatedCount() < m_app->Host().PageCount() &&
+               GetTickCount() - start < 5000) {
+            MSG msg;
+            while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE))
+                DispatchMessageW(&msg);
+            Sleep(5);
+        }
+        return m_app->Host().CreatedCount() == m_app->Host().PageCount();
+    }
     UINT MenuState(int item) {
         return GetMenuState(m_app->Host().Menu(), static_cast<UINT>(item), MF_BYCOMMAND);
     }
@@ -73,14 +91,54 @@ class PageHostTest : public AppFixture {
 
 using Log = std::vector<std::string>;
 
-TEST_F(PageHostTest, BuildCreatesAndLoadsEveryPageInOrderThenShowsTheFirst) {
+TEST_F(PageHostTest, OnlyTheFirstPageIsMadeBeforeTheWindowShowsAndIsShownFirst) {
     MakeThree();
     const Log log = Take();
-    const Log expected = {"A:Create", "A:Load", "B:Create", "B:Load", "C:Create", "C:Load"};
-    ASSERT_GE(log.size(), expected.size());
-    EXPECT_EQ(Log(log.begin(), log.begin() + 6), expected);
+    ASSERT_GE(log.size(), 2u);
+    EXPECT_EQ(Log(log.begin(), log.begin() + 2), (Log{"A:Create", "A:Load"}));
+    EXPECT_EQ(std::count(log.begin(), log.end(), "B:Create"), 0);
+    EXPECT_EQ(std::count(log.begin(), log.end(), "C:Create"), 0);
+    EXPECT_TRUE(IsWindowVisible(Main()));
     EXPECT_EQ(m_app->Host().Current(), m_app->Host().Page(0));
     EXPECT_TRUE(m_app->Host().Page(0)->IsActive());
+}
+
+TEST_F(PageHostTest, AfterTheFirstPaintTheOtherPagesAreMadeInOrderThenEveryPageHearsOfIt) {
+    MakeThree();
+    Take();
+    ASSERT_TRUE(PumpUntilEveryPageIsMade());
+    Log log = Take();
+    log.erase(std::remove_if(log.begin(), log.end(),
+                             [](const std::string& s) { return s.find(":Size") != s.npos; }),
+              log.end());
+    EXPECT_EQ(log, (Log{"B:Create", "B:Load", "C:Create", "C:Load", "A:HostShown", "B:HostShown",
+                        "C:HostShown"}));
+}
+
+TEST_F(PageHostTest, ShowingALaterPageBeforeThePaintMakesThePagesUpToItInOrder) {
+    MakeThree();
+    Take();
+    m_app->SelectPage(2);
+    EXPECT_EQ(Take(), (Log{"B:Create", "B:Load", "C:Create", "C:Load", "A:Deactivate1",
+                           "C:Activate1", "A:Show0", "B:Show0", "C:Show1"}));
+}
+
+TEST_F(PageHostTest, ApplyBeforeThePaintMakesEveryPageAndSavesThemAll) {
+    MakeThree();
+    Take();
+    m_app->Apply();
+    EXPECT_EQ(Take(),
+              (Log{"B:Create", "B:Load", "C:Create", "C:Load", "A:Save", "B:Save", "C:Save"}));
+    EXPECT_EQ(ConfigText(), std::string("[Pages]\r\nA=saved\r\nB=saved\r\nC=saved\r\n\r\n"));
+}
+
+TEST_F(PageHostTest, CommandsAndNotificationsReachOnlyPagesThatHaveControls) {
+    MakeThree();
+    Take();
+    SendMessageW(Main(), WM_COMMAND, 1234, 0);
+    NMHDR hdr = {Main(), 1, 0};
+    SendMessageW(Main(), WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&hdr));
+    EXPECT_EQ(Take(), (Log{"A:Command1234", "A:Notify"}));
 }
 
 TEST_F(PageHostTest, PageMenuHasOneItemPerPageWithIdIndexPlusOne) {
@@ -95,7 +153,7 @@ TEST_F(PageHostTest, PageMenuHasOneItemPerPageWithIdIndexPlusOne) {
 }
 
 TEST_F(PageHostTest, SwitchDeactivatesTheOldPageBeforeActivatingTheNew) {
-    MakeThree();
+    MakeThreeShown();
     Take();
     m_app->SelectPage(2);
     EXPECT_EQ(Take(), (Log{"A:Deactivate1", "C:Activate1", "A:Show0", "B:Show0", "C:Show1"}));
@@ -123,7 +181,7 @@ TEST_F(PageHostTest, SelectingTheCurrentPageAgainChangesNothingButTheRadioMark) 
 }
 
 TEST_F(PageHostTest, PageNeverSelectedStillSavesOnApply) {
-    MakeThree();
+    MakeThreeShown();
     Take();
     m_app->Apply();
     EXPECT_EQ(Take(), (Log{"A:Save", "B:Save", "C:Save"}));
@@ -145,13 +203,14 @@ TEST_F(PageHostTest, NullPageIsSkippedEverywhere) {
 
 TEST_F(PageHostTest, CommandIsOfferedInOrderUntilAPageTakesIt) {
     MakeApp({new RecordingPage("A"), new RecordingPage("B", true), new RecordingPage("C")});
+    ASSERT_TRUE(PumpUntilEveryPageIsMade());
     Take();
     SendMessageW(Main(), WM_COMMAND, 1234, 0);
     EXPECT_EQ(Take(), (Log{"A:Command1234", "B:Command1234"}));
 }
 
 TEST_F(PageHostTest, NotifyGoesToEveryPage) {
-    MakeThree();
+    MakeThreeShown();
     Take();
     NMHDR hdr = {Main(), 1, 0};
     SendMessageW(Main(), WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&hdr));
@@ -159,14 +218,14 @@ TEST_F(PageHostTest, NotifyGoesToEveryPage) {
 }
 
 TEST_F(PageHostTest, SizeGivesEveryPageTheClientRectangle) {
-    MakeThree();
+    MakeThreeShown();
     Take();
     SendMessageW(Main(), WM_SIZE, SIZE_RESTORED, MAKELPARAM(200, 150));
     EXPECT_EQ(Take(), (Log{"A:Size0,0,200,150", "B:Size0,0,200,150", "C:Size0,0,200,150"}));
 }
 
 TEST_F(PageHostTest, WindowDestroyCallsEveryPageOnDestroy) {
-    MakeThree();
+    MakeThreeShown();
     Take();
     DestroyWindow(Main());
     EXPECT_EQ(Take(), (Log{"A:Destroy", "B:Destroy", "C:Destroy"}));

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "app/page_list.h"
+#include "app_fixture.h"
 #include "ids_behaviour.h"
 #include "pages/behaviour/program_directories_page.h"
 #include "platform/file_access.h"
@@ -88,7 +89,7 @@ class ThemeCataloguePageTest : public ::testing::Test {
     }
 
     TempFolder m_dir;
-    PageHost m_host;
+    cv2test::PageHost m_host;
     ThemeCataloguePage m_page;
     IniDocument m_doc;
 };
@@ -293,7 +294,7 @@ TEST_F(ThemeCataloguePageTest, SavingProgramDirectoriesReloadsTheMainWindowsCata
     Theme(L"Extra\\E\\e.skin", "[Skin Info]\nName=Extra\n");
     m_doc.Load(m_dir.File(L"config.ini"));
     {
-        PageHost host;
+        cv2test::PageHost host;
         host.Add(*catalogue);
         host.Add(*directories, false);
         catalogue->Load(&m_doc);
@@ -308,4 +309,49 @@ TEST_F(ThemeCataloguePageTest, SavingProgramDirectoriesReloadsTheMainWindowsCata
     }
     for (SettingsPage* page : pages)
         delete page;
+}
+
+// --- In the real main window, which shows before its theme list is filled ---------------------
+
+class CatalogueInMainWindowTest : public AppFixture {
+  protected:
+    ThemeCataloguePage& Make() {
+        m_dir.MakeFolder(L"Themes\\Blue");
+        m_dir.Write(L"Themes\\Blue\\blue.skin", "[Skin Info]\nName=Deep Blue\n");
+        auto* page = new ThemeCataloguePage(m_dir.Path());
+        MakeApp({page}, "[Settings]\r\nTheme File=" + Blue() + "\r\n");
+        return *page;
+    }
+    std::string Blue() const { return Narrow(m_dir.File(L"Themes\\Blue\\blue.skin")); }
+    static LRESULT Rows(const ThemeCataloguePage& page) {
+        return SendMessageW(page.Window(ThemeCataloguePage::List), LB_GETCOUNT, 0, 0);
+    }
+};
+
+TEST_F(CatalogueInMainWindowTest,
+       TheWindowShowsBeforeTheThemesAreListedAndTheListFillsAfterItPainted) {
+    ThemeCataloguePage& page = Make();
+    EXPECT_TRUE(IsWindowVisible(Main()));
+    EXPECT_EQ(Rows(page), 0);
+    const DWORD start = GetTickCount();
+    while (Rows(page) == 0 && GetTickCount() - start < 5000) {
+        Pump();
+        Sleep(5);
+    }
+    Pump();
+    const Texts listed = ListBoxTexts(page.Window(ThemeCataloguePage::List));
+    ASSERT_EQ(listed.size(), 2u); // the theme and the custom theme
+    const LRESULT row = SendMessageW(page.Window(ThemeCataloguePage::List), LB_GETCURSEL, 0, 0);
+    ASSERT_GE(row, 0);
+    EXPECT_EQ(listed[static_cast<size_t>(row)], L"Deep Blue");
+    EXPECT_TRUE(IsWindowEnabled(page.Window(ThemeCataloguePage::Delete)));
+}
+
+TEST_F(CatalogueInMainWindowTest, ApplyBeforeTheListIsFilledKeepsTheThemeConfigIniNames) {
+    ThemeCataloguePage& page = Make();
+    ASSERT_EQ(Rows(page), 0);
+    m_app->Apply();
+    EXPECT_NE(ConfigText().find("Theme File=" + Blue() + "\r\n"), std::string::npos)
+        << ConfigText();
+    EXPECT_EQ(Rows(page), 2);
 }

@@ -1,14 +1,19 @@
 #include "pages/behaviour/rule_list.h"
 
+#include <algorithm>
+
 #include "store/ini_document.h"
 
 namespace cv2 {
 
 size_t RuleList::Add(const std::wstring& text, int data) {
-    size_t at = 0;
-    while (at < m_entries.size() && CompareListText(m_entries[at].text, text) <= 0)
-        ++at;
-    m_entries.insert(m_entries.begin() + static_cast<std::ptrdiff_t>(at), RuleEntry{text, data});
+    // The entries are always in order, so the place is found by halving: loading a long list
+    // compares each text a few times, not once per entry already there.
+    const auto place = std::upper_bound(
+        m_entries.begin(), m_entries.end(), text,
+        [](const std::wstring& t, const RuleEntry& e) { return CompareListText(t, e.text) < 0; });
+    const size_t at = static_cast<size_t>(place - m_entries.begin());
+    m_entries.insert(place, RuleEntry{text, data});
     return at;
 }
 

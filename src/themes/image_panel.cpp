@@ -69,15 +69,26 @@ const ControlPlace kTallPlaces[] = {
     {IDC_PANEL_CUSTOM_COLORS, From::Middle, 3, From::Right, -4, 215, 21},
 };
 
-// Landscape and square screens: the rows on the left half, their previews beside them.
-const ControlPlace kWidePlaces[] = {
+// Landscape and square screens: the rows on the left half, their previews beside them...
+const ControlPlace kWideRows[] = {
     {IDC_PANEL_FIRST_LABEL, From::Left, 4, From::Middle, -4, 26, 16},
     {IDC_PANEL_FIRST_PATH, From::Left, 4, From::Middle, -31, 42, 21},
     {IDC_PANEL_FIRST_BROWSE, From::Middle, -28, From::Middle, -4, 42, 21},
-    {IDC_PANEL_FIRST_PREVIEW, From::Middle, 4, From::Right, -4, 26, 37},
     {IDC_PANEL_SECOND_LABEL, From::Left, 4, From::Middle, -4, 68, 16},
     {IDC_PANEL_SECOND_PATH, From::Left, 4, From::Middle, -31, 84, 21},
     {IDC_PANEL_SECOND_BROWSE, From::Middle, -28, From::Middle, -4, 84, 21},
+};
+// ...or across the whole width when a page shows no previews.
+const ControlPlace kWideRowsWithoutPreviews[] = {
+    {IDC_PANEL_FIRST_LABEL, From::Left, 4, From::Right, -4, 26, 16},
+    {IDC_PANEL_FIRST_PATH, From::Left, 4, From::Right, -31, 42, 21},
+    {IDC_PANEL_FIRST_BROWSE, From::Right, -28, From::Right, -4, 42, 21},
+    {IDC_PANEL_SECOND_LABEL, From::Left, 4, From::Right, -4, 68, 16},
+    {IDC_PANEL_SECOND_PATH, From::Left, 4, From::Right, -31, 84, 21},
+    {IDC_PANEL_SECOND_BROWSE, From::Right, -28, From::Right, -4, 84, 21},
+};
+const ControlPlace kWideOthers[] = {
+    {IDC_PANEL_FIRST_PREVIEW, From::Middle, 4, From::Right, -4, 26, 37},
     {IDC_PANEL_SECOND_PREVIEW, From::Middle, 4, From::Right, -4, 68, 37},
     {IDC_PANEL_LIST, From::Left, 4, From::Middle, -4, 112, 100},
     {IDC_PANEL_SETTINGS, From::Left, 4, From::Middle, -4, 138, 23},
@@ -135,12 +146,27 @@ void ImagePanel::Detach() {
 }
 
 void ImagePanel::Layout() {
-    if (UseWideLayout())
-        PlaceControls(m_dialog, kWidePlaces, sizeof kWidePlaces / sizeof kWidePlaces[0]);
-    else
+    if (UseWideLayout()) {
+        PlaceControls(m_dialog, kWideOthers, sizeof kWideOthers / sizeof kWideOthers[0]);
+        PlaceWideRows();
+    } else {
         PlaceControls(m_dialog, kTallPlaces, sizeof kTallPlaces / sizeof kTallPlaces[0]);
+    }
     // The previews are made for their boxes' sizes, which may have changed.
     RefreshPreviews();
+}
+
+// Beside the previews, or across their room when the page hides them. The window's own flag
+// is read, not IsWindowVisible: the editor may itself be hidden while a page is set up.
+void ImagePanel::PlaceWideRows() {
+    const LONG_PTR style = GetWindowLongPtrW(GetDlgItem(m_dialog, kRows[0].preview), GWL_STYLE);
+    if (style & WS_VISIBLE)
+        PlaceControls(m_dialog, kWideRows, sizeof kWideRows / sizeof kWideRows[0]);
+    else
+        PlaceControls(m_dialog, kWideRowsWithoutPreviews,
+                      sizeof kWideRowsWithoutPreviews / sizeof kWideRowsWithoutPreviews[0]);
+    // A moved control that had not painted yet would keep the bits it was moved with.
+    RedrawWindow(m_dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void ImagePanel::ShowParts(unsigned parts, bool visible) {
@@ -148,6 +174,8 @@ void ImagePanel::ShowParts(unsigned parts, bool visible) {
         if (p.part & parts)
             ShowWindow(GetDlgItem(m_dialog, p.id), visible ? SW_SHOW : SW_HIDE);
     }
+    if ((parts & (kPanelRows | kPanelPreviews)) && UseWideLayout())
+        PlaceWideRows();
 }
 
 void ImagePanel::SetRowLabels(const wchar_t* first, const wchar_t* second) {

@@ -74,6 +74,7 @@ class ImagePanel {
     bool HasPreview(int row) const { return !m_previews[row & 1].IsEmpty(); }
 
   private:
+    void PlaceWideRows();
     void LoadPreview(int row);
     void Browse(int row);
 

@@ -103,6 +103,51 @@ TEST_F(PanelPagesScreens, StartMenuSkinPage) {
     CheckAndShoot(L"panel_start_menu_skin", cv2test::kStartMenuSkinPage);
 }
 
+// The path boxes stand beside the previews where a wide screen puts them, and take the whole
+// width on a page without previews.
+RECT ClientRectOf(HWND dlg, int id) {
+    RECT r = {};
+    HWND control = GetDlgItem(dlg, id);
+    GetWindowRect(control, &r);
+    MapWindowPoints(nullptr, dlg, reinterpret_cast<POINT*>(&r), 2);
+    return r;
+}
+
+TEST_F(PanelPagesScreens, PathRowsTakeTheRoomOfPreviewsAPageDoesNotShow) {
+    for (int page : {static_cast<int>(cv2test::kTaskbarBackgroundPage),
+                     static_cast<int>(cv2test::kStartMenuSkinPage)}) {
+        RunEditor(
+            page,
+            [&](HWND dlg) {
+                RECT client;
+                GetClientRect(dlg, &client);
+                const RECT browse = ClientRectOf(dlg, IDC_PANEL_FIRST_BROWSE);
+                const RECT preview = ClientRectOf(dlg, IDC_PANEL_FIRST_PREVIEW);
+                const bool previews = IsWindowVisible(GetDlgItem(dlg, IDC_PANEL_FIRST_PREVIEW));
+                EXPECT_EQ(previews, page == cv2test::kTaskbarBackgroundPage);
+                if (previews && preview.top < browse.bottom) // beside the rows
+                    EXPECT_LE(browse.right, preview.left) << page;
+                else // under them, or none: the rows reach the right edge
+                    EXPECT_GT(browse.right, client.right * 9 / 10) << page;
+            },
+            IDCANCEL);
+    }
+}
+
+TEST_F(PanelPagesScreens, RowsGoBackBesideThePreviewsOnThePageAfterOneWithoutThem) {
+    RunEditor(
+        cv2test::kStartMenuSkinPage,
+        [&](HWND dlg) {
+            Select(cv2test::kTaskbarBackgroundPage);
+            const RECT browse = ClientRectOf(dlg, IDC_PANEL_FIRST_BROWSE);
+            const RECT preview = ClientRectOf(dlg, IDC_PANEL_FIRST_PREVIEW);
+            ASSERT_TRUE(IsWindowVisible(GetDlgItem(dlg, IDC_PANEL_FIRST_PREVIEW)));
+            if (preview.top < browse.bottom)
+                EXPECT_LE(browse.right, preview.left);
+        },
+        IDCANCEL);
+}
+
 TEST_F(PanelPagesScreens, BackgroundDialogOfTaskbarBackground) {
     CheckAndShoot(L"panel_background_dialog", cv2test::kTaskbarBackgroundPage, true);
 }

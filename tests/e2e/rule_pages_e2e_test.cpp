@@ -43,13 +43,30 @@ class RulePagesE2E : public DeviceFixture {
                      reinterpret_cast<LPARAM>(list));
     }
 
-    // Presses a page button that opens the dialog, and waits for the dialog titled `title`.
+    // Presses a page button that opens the dialog, as a tap does (the button's notice to the
+    // main window), and waits for the dialog titled `title`.
     HWND OpenDialog(int button, const wchar_t* title) const {
-        PostMessageW(Control(button), BM_CLICK, 0, 0);
+        HWND control = Control(button);
+        EXPECT_TRUE(control) << "no shown button " << button;
+        PostMessageW(m_main, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
+                     reinterpret_cast<LPARAM>(control));
         HWND dialog = nullptr;
-        WaitFor(
-            [&] { return (dialog = FindWindowW(L"#32770", title)) && IsWindowVisible(dialog); });
+        if (!WaitFor([&] {
+                return (dialog = FindWindowW(L"#32770", title)) && IsWindowVisible(dialog);
+            }))
+            ADD_FAILURE() << "dialogs open instead: " << DialogTitles();
         return dialog;
+    }
+
+    static std::string DialogTitles() {
+        std::string titles;
+        for (HWND w = FindWindowW(L"#32770", nullptr); w;
+             w = FindWindowExW(nullptr, w, L"#32770", nullptr)) {
+            char text[64] = {};
+            GetWindowTextA(w, text, 64);
+            titles += std::string("\"") + text + (IsWindowVisible(w) ? "\" " : "\" (hidden) ");
+        }
+        return titles;
     }
 
     static std::wstring FieldText(HWND dialog) {

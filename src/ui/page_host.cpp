@@ -61,6 +61,8 @@ RECT PageArea(int clientWidth, int clientHeight) {
 }
 
 PageHost::~PageHost() {
+    // A window that outlives its host must not lead its timer back here.
+    LetGoOfWindow();
     for (SettingsPage* page : m_pages)
         delete page;
     if (m_pageMenu)
@@ -254,11 +256,15 @@ void PageHost::LoadAll(IniDocument* doc) {
         page->Load(doc);
 }
 
-void PageHost::DestroyAll() {
-    if (m_hwnd) {
+void PageHost::LetGoOfWindow() {
+    if (m_hwnd && IsWindow(m_hwnd) && GetPropW(m_hwnd, kHostProperty) == this) {
         KillTimer(m_hwnd, kAfterPaintTimer);
         RemovePropW(m_hwnd, kHostProperty);
     }
+}
+
+void PageHost::DestroyAll() {
+    LetGoOfWindow();
     for (SettingsPage* page : CreatedPages())
         page->OnDestroy();
 }

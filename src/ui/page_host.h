@@ -69,6 +69,8 @@ class PageHost {
 
   private:
     std::vector<SettingsPage*> CreatedPages() const;
+    // Stops the after-paint timer and takes the host off its window.
+    void LetGoOfWindow();
     // After the first paint: the remaining pages are made, then every page hears OnHostShown.
     static void CALLBACK AfterFirstPaint(HWND window, UINT, UINT_PTR timer, DWORD);
 

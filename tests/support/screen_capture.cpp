@@ -93,15 +93,23 @@ bool ScreenHasContent() {
 }
 
 void PumpMessages(DWORD ms) {
+    PumpUntil([] { return false; }, ms);
+}
+
+bool PumpUntil(const std::function<bool()>& done, DWORD ms) {
     const DWORD end = GetTickCount() + ms;
-    do {
+    for (;;) {
         MSG msg;
         while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
             TranslateMessage(&msg);
             DispatchMessageW(&msg);
         }
+        if (done())
+            return true;
+        if (static_cast<LONG>(end - GetTickCount()) <= 0)
+            return false;
         Sleep(10);
-    } while (static_cast<LONG>(end - GetTickCount()) > 0);
+    }
 }
 
 } // namespace cv2test

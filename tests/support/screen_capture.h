@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 namespace cv2test {
@@ -20,5 +21,7 @@ bool ScreenHasContent();
 
 // Lets pending paint messages of this thread run, for up to `ms` milliseconds.
 void PumpMessages(DWORD ms);
+// Runs this thread's messages until `done` holds, for up to `ms` milliseconds; whether it held.
+bool PumpUntil(const std::function<bool()>& done, DWORD ms = 5000);
 
 } // namespace cv2test

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "screen_capture.h"
 #include "store/scale.h"
 #include "ui/page_host.h"
 
@@ -69,15 +70,7 @@ class PageHostTest : public AppFixture {
         return *m_app;
     }
     bool PumpUntilEveryPageIsMade() {
-        const DWORD start = GetTickCount();
-        while (m_app->Host().CreatedCount() < m_app->Host().PageCount() &&
-               GetTickCount() - start < 5000) {
-            MSG msg;
-            while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE))
-                DispatchMessageW(&msg);
-            Sleep(5);
-        }
-        return m_app->Host().CreatedCount() == m_app->Host().PageCount();
+        return PumpUntil([&] { return m_app->Host().CreatedCount() == m_app->Host().PageCount(); });
     }
     UINT MenuState(int item) {
         return GetMenuState(m_app->Host().Menu(), static_cast<UINT>(item), MF_BYCOMMAND);

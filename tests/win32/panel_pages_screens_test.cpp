@@ -105,14 +105,6 @@ TEST_F(PanelPagesScreens, StartMenuSkinPage) {
 
 // The path boxes stand beside the previews where a wide screen puts them, and take the whole
 // width on a page without previews.
-RECT ClientRectOf(HWND dlg, int id) {
-    RECT r = {};
-    HWND control = GetDlgItem(dlg, id);
-    GetWindowRect(control, &r);
-    MapWindowPoints(nullptr, dlg, reinterpret_cast<POINT*>(&r), 2);
-    return r;
-}
-
 TEST_F(PanelPagesScreens, PathRowsTakeTheRoomOfPreviewsAPageDoesNotShow) {
     for (int page : {static_cast<int>(cv2test::kTaskbarBackgroundPage),
                      static_cast<int>(cv2test::kStartMenuSkinPage)}) {
@@ -121,8 +113,8 @@ TEST_F(PanelPagesScreens, PathRowsTakeTheRoomOfPreviewsAPageDoesNotShow) {
             [&](HWND dlg) {
                 RECT client;
                 GetClientRect(dlg, &client);
-                const RECT browse = ClientRectOf(dlg, IDC_PANEL_FIRST_BROWSE);
-                const RECT preview = ClientRectOf(dlg, IDC_PANEL_FIRST_PREVIEW);
+                const RECT browse = cv2test::ItemRect(dlg, IDC_PANEL_FIRST_BROWSE);
+                const RECT preview = cv2test::ItemRect(dlg, IDC_PANEL_FIRST_PREVIEW);
                 const bool previews = IsWindowVisible(GetDlgItem(dlg, IDC_PANEL_FIRST_PREVIEW));
                 EXPECT_EQ(previews, page == cv2test::kTaskbarBackgroundPage);
                 if (previews && preview.top < browse.bottom) // beside the rows
@@ -139,8 +131,8 @@ TEST_F(PanelPagesScreens, RowsGoBackBesideThePreviewsOnThePageAfterOneWithoutThe
         cv2test::kStartMenuSkinPage,
         [&](HWND dlg) {
             Select(cv2test::kTaskbarBackgroundPage);
-            const RECT browse = ClientRectOf(dlg, IDC_PANEL_FIRST_BROWSE);
-            const RECT preview = ClientRectOf(dlg, IDC_PANEL_FIRST_PREVIEW);
+            const RECT browse = cv2test::ItemRect(dlg, IDC_PANEL_FIRST_BROWSE);
+            const RECT preview = cv2test::ItemRect(dlg, IDC_PANEL_FIRST_PREVIEW);
             ASSERT_TRUE(IsWindowVisible(GetDlgItem(dlg, IDC_PANEL_FIRST_PREVIEW)));
             if (preview.top < browse.bottom)
                 EXPECT_LE(browse.right, preview.left);

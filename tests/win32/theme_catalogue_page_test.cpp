@@ -12,6 +12,7 @@
 #include "platform/file_access.h"
 #include "ids_themes.h"
 #include "rule_page_support.h"
+#include "screen_capture.h"
 #include "store/scale.h"
 #include "store/screen.h"
 #include "temp_folder.h"
@@ -333,11 +334,7 @@ TEST_F(CatalogueInMainWindowTest,
     ThemeCataloguePage& page = Make();
     EXPECT_TRUE(IsWindowVisible(Main()));
     EXPECT_EQ(Rows(page), 0);
-    const DWORD start = GetTickCount();
-    while (Rows(page) == 0 && GetTickCount() - start < 5000) {
-        Pump();
-        Sleep(5);
-    }
+    ASSERT_TRUE(PumpUntil([&] { return Rows(page) > 0; }));
     Pump();
     const Texts listed = ListBoxTexts(page.Window(ThemeCataloguePage::List));
     ASSERT_EQ(listed.size(), 2u); // the theme and the custom theme

@@ -69,7 +69,8 @@ const ControlPlace kTallPlaces[] = {
     {IDC_PANEL_CUSTOM_COLORS, From::Middle, 3, From::Right, -4, 215, 21},
 };
 
-// Landscape and square screens: the rows on the left half, their previews beside them...
+// Landscape and square screens: the rows on the left half, their previews beside them (or,
+// on a page without previews, these rows across the whole width).
 const ControlPlace kWideRows[] = {
     {IDC_PANEL_FIRST_LABEL, From::Left, 4, From::Middle, -4, 26, 16},
     {IDC_PANEL_FIRST_PATH, From::Left, 4, From::Middle, -31, 42, 21},
@@ -77,15 +78,6 @@ const ControlPlace kWideRows[] = {
     {IDC_PANEL_SECOND_LABEL, From::Left, 4, From::Middle, -4, 68, 16},
     {IDC_PANEL_SECOND_PATH, From::Left, 4, From::Middle, -31, 84, 21},
     {IDC_PANEL_SECOND_BROWSE, From::Middle, -28, From::Middle, -4, 84, 21},
-};
-// ...or across the whole width when a page shows no previews.
-const ControlPlace kWideRowsWithoutPreviews[] = {
-    {IDC_PANEL_FIRST_LABEL, From::Left, 4, From::Right, -4, 26, 16},
-    {IDC_PANEL_FIRST_PATH, From::Left, 4, From::Right, -31, 42, 21},
-    {IDC_PANEL_FIRST_BROWSE, From::Right, -28, From::Right, -4, 42, 21},
-    {IDC_PANEL_SECOND_LABEL, From::Left, 4, From::Right, -4, 68, 16},
-    {IDC_PANEL_SECOND_PATH, From::Left, 4, From::Right, -31, 84, 21},
-    {IDC_PANEL_SECOND_BROWSE, From::Right, -28, From::Right, -4, 84, 21},
 };
 const ControlPlace kWideOthers[] = {
     {IDC_PANEL_FIRST_PREVIEW, From::Middle, 4, From::Right, -4, 26, 37},
@@ -160,11 +152,15 @@ void ImagePanel::Layout() {
 // is read, not IsWindowVisible: the editor may itself be hidden while a page is set up.
 void ImagePanel::PlaceWideRows() {
     const LONG_PTR style = GetWindowLongPtrW(GetDlgItem(m_dialog, kRows[0].preview), GWL_STYLE);
-    if (style & WS_VISIBLE)
-        PlaceControls(m_dialog, kWideRows, sizeof kWideRows / sizeof kWideRows[0]);
-    else
-        PlaceControls(m_dialog, kWideRowsWithoutPreviews,
-                      sizeof kWideRowsWithoutPreviews / sizeof kWideRowsWithoutPreviews[0]);
+    const bool besidePreviews = (style & WS_VISIBLE) != 0;
+    for (ControlPlace place : kWideRows) {
+        if (!besidePreviews) {
+            // Every edge at the middle moves to the right edge.
+            place.leftFrom = place.leftFrom == From::Middle ? From::Right : place.leftFrom;
+            place.rightFrom = place.rightFrom == From::Middle ? From::Right : place.rightFrom;
+        }
+        PlaceControls(m_dialog, &place, 1);
+    }
     // A moved control that had not painted yet would keep the bits it was moved with.
     RedrawWindow(m_dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

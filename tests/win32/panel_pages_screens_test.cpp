@@ -134,8 +134,9 @@ TEST_F(PanelPagesScreens, RowsGoBackBesideThePreviewsOnThePageAfterOneWithoutThe
             const RECT browse = cv2test::ItemRect(dlg, IDC_PANEL_FIRST_BROWSE);
             const RECT preview = cv2test::ItemRect(dlg, IDC_PANEL_FIRST_PREVIEW);
             ASSERT_TRUE(IsWindowVisible(GetDlgItem(dlg, IDC_PANEL_FIRST_PREVIEW)));
-            if (preview.top < browse.bottom)
+            if (preview.top < browse.bottom) {
                 EXPECT_LE(browse.right, preview.left);
+            }
         },
         IDCANCEL);
 }
@@ -159,4 +160,30 @@ TEST_F(PanelPagesScreens, SoftKeyImagesDialog) {
 // The screen the run is made for picks the portrait, landscape or square layout.
 TEST_F(PanelPagesScreens, StartMenuDialog) {
     CheckAndShoot(L"panel_start_menu_dialog", cv2test::kStartMenuSkinPage, true);
+}
+
+// A path box narrower than half the dialog shows only the drive of a typical path; on wide
+// screens the boxes run across the whole width instead of sharing it with the margins.
+TEST_F(PanelPagesScreens, StartMenuDialogPathBoxesTakeAtLeastHalfTheWidth) {
+    bool checked = false;
+    RunEditor(
+        cv2test::kStartMenuSkinPage,
+        [&](HWND dlg) {
+            OpenSettings(
+                dlg,
+                [&](HWND menu) {
+                    RECT client;
+                    GetClientRect(menu, &client);
+                    for (int id : {IDC_MENU_PROGRAM, IDC_MENU_SETTINGS, IDC_MENU_FIND,
+                                   IDC_MENU_HELP, IDC_MENU_ARROW}) {
+                        RECT box;
+                        GetWindowRect(GetDlgItem(menu, id), &box);
+                        EXPECT_GE(2 * (box.right - box.left), client.right - 6) << id;
+                    }
+                    checked = true;
+                },
+                IDCANCEL);
+        },
+        IDCANCEL);
+    EXPECT_TRUE(checked);
 }

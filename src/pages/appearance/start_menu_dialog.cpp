@@ -85,23 +85,24 @@ const ControlPlace kPortraitPlaces[] = {
     {IDC_MENU_HIGHLIGHT, From::Middle, 3, From::Right, -4, 225, 23},
 };
 
-// Landscape: the icons on the left half, margins and buttons on the right half.
-constexpr IconRows kLandscapeIcons = {4, 24, 20, From::Middle, -2};
+// Landscape: the icons across the whole width, then the margins on the left half and the
+// buttons on the right half.
+constexpr IconRows kLandscapeIcons = {2, 20, 19, From::Right, -4};
 const ControlPlace kLandscapePlaces[] = {
-    {IDC_MENU_FIRST_MARGINS, From::Middle, 4, From::Right, -4, 4, 16},
-    {IDC_MENU_LEFT_LABEL, From::Middle, 4, From::Middle, 34, 23, 16},
-    {IDC_MENU_LEFT, From::Middle, 34, From::Middle, 66, 20, 20},
-    {IDC_MENU_RIGHT_LABEL, From::Middle, 70, From::Middle, 102, 23, 16},
-    {IDC_MENU_RIGHT, From::Middle, 102, From::Middle, 134, 20, 20},
-    {IDC_MENU_SUB_MARGINS, From::Middle, 4, From::Right, -4, 46, 16},
-    {IDC_MENU_SUB_LEFT_LABEL, From::Middle, 4, From::Middle, 34, 65, 16},
-    {IDC_MENU_SUB_LEFT, From::Middle, 34, From::Middle, 66, 62, 20},
-    {IDC_MENU_SUB_RIGHT_LABEL, From::Middle, 70, From::Middle, 102, 65, 16},
-    {IDC_MENU_SUB_RIGHT, From::Middle, 102, From::Middle, 134, 62, 20},
-    {IDC_MENU_FONT, From::Middle, 4, From::Right, -4, 90, 22},
-    {IDC_MENU_NO_IMAGES, From::Left, 4, From::Middle, -2, 126, 20},
-    {IDC_MENU_BACKGROUND, From::Middle, 4, From::Right, -4, 114, 22},
-    {IDC_MENU_HIGHLIGHT, From::Middle, 4, From::Right, -4, 138, 22},
+    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Middle, -4, 103, 16},
+    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 34, 122, 16},
+    {IDC_MENU_LEFT, From::Left, 34, From::Left, 66, 119, 19},
+    {IDC_MENU_RIGHT_LABEL, From::Left, 70, From::Left, 102, 122, 16},
+    {IDC_MENU_RIGHT, From::Left, 102, From::Left, 134, 119, 19},
+    {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Middle, -4, 140, 16},
+    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 34, 159, 16},
+    {IDC_MENU_SUB_LEFT, From::Left, 34, From::Left, 66, 156, 19},
+    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 70, From::Left, 102, 159, 16},
+    {IDC_MENU_SUB_RIGHT, From::Left, 102, From::Left, 134, 156, 19},
+    {IDC_MENU_FONT, From::Middle, 4, From::Right, -4, 104, 20},
+    {IDC_MENU_BACKGROUND, From::Middle, 4, From::Right, -4, 126, 20},
+    {IDC_MENU_HIGHLIGHT, From::Middle, 4, From::Right, -4, 148, 20},
+    {IDC_MENU_NO_IMAGES, From::Middle, 4, From::Right, -4, 171, 17},
 };
 
 // Square: the icons, then the margins on the left and the buttons in a column on the right.

@@ -1,5 +1,5 @@
-// Test support for the rule list pages and their dialogs: a host window standing in for the
-// main window, and a driver that works the modal dialogs the pages open.
+// Test support for the rule list pages and their dialogs: the host window, and steps that work
+// the modal dialogs the pages open.
 #pragma once
 
 #include <windows.h>
@@ -9,41 +9,12 @@
 #include <string>
 #include <vector>
 
-#include "check_pages_host.h" // WindowText
+#include "check_pages_host.h"
 #include "dialog_driver.h"
 #include "store/ini_document.h"
 #include "ui/settings_page.h"
 
 namespace cv2test {
-
-// A top-level window the size of the editor's main window that forwards commands and sizes to
-// its pages, as the main window does.
-class PageHost {
-  public:
-    PageHost();
-    ~PageHost();
-    PageHost(const PageHost&) = delete;
-    PageHost& operator=(const PageHost&) = delete;
-
-    // Creates the page's controls on this window and shows them.
-    void Add(cv2::SettingsPage& page, bool show = true);
-    HWND Window() const { return m_hwnd; }
-
-    // The visible child with this id (the pages share their button ids).
-    HWND Control(int id) const;
-    // Clicks a button the way a tap does.
-    void Click(int id) const;
-    // Selects a list row the way a tap does (selection change sent to the host).
-    void SelectRow(int row) const;
-    std::vector<std::wstring> ListTexts() const;
-    std::vector<LPARAM> ListData() const;
-    bool Enabled(int id) const { return IsWindowEnabled(Control(id)) != FALSE; }
-
-  private:
-    static LRESULT CALLBACK Proc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam);
-    HWND m_hwnd = nullptr;
-    std::vector<cv2::SettingsPage*> m_pages;
-};
 
 // A document parsed from file text.
 cv2::IniDocument DocOf(const std::string& text);

@@ -28,7 +28,8 @@ bool ThemeEditor::OnInit(HWND dialog) {
         return false;
     SetDialogFonts(dialog, nullptr, 0);
     m_panel.Attach(dialog);
-    m_host.BuildPages(dialog, m_doc);
+    // The editor shows at the cost of its first page; the others are made once it has painted.
+    m_host.BuildPages(dialog, m_doc, PageHost::Making::RestAfterFirstPaint);
     // Sizes that arrived while the pages had no controls yet are given again now.
     RECT client;
     GetClientRect(dialog, &client);

@@ -49,7 +49,11 @@ class ControlPagesE2E : public DeviceFixture {
             return customize && IsWindowEnabled(customize);
         });
         PostMessageW(ShownControl(IDC_THEMES_CUSTOMIZE), BM_CLICK, 0, 0);
-        return OpenedDialog(m_main);
+        HWND editor = OpenedDialog(m_main);
+        // The editor as the user meets it: its later pages are made once it has painted, System
+        // Colors last.
+        WaitFor([&] { return editor && GetDlgItem(editor, IDC_COLORS_CHANGE); });
+        return editor;
     }
 
     // The visible, enabled dialog of the program other than `except`, once it has opened.

@@ -25,8 +25,8 @@ class ControlPagesTest : public PickerHostTest {
     bool RunEditor(std::vector<cv2::SettingsPage*> pages,
                    const std::function<void(HWND, cv2::ThemeEditor&)>& body, int endWith) {
         cv2::ThemeEditor editor(&doc, pages.empty() ? cv2::EditorPages() : pages);
-        DialogDriver::OnNextDialog([&](HWND dlg) { body(dlg, editor); }, endWith);
-        return editor.Run(host);
+        return RunEditorShown(
+            editor, host, [&](HWND dlg) { body(dlg, editor); }, endWith);
     }
 
     cv2::IniDocument doc;

@@ -51,13 +51,13 @@ class PanelPagesTest : public PickerHostTest {
     // its dialog and ends it with `endWith`; true when the editor ended with OK.
     bool RunEditor(int first, const std::function<void(HWND)>& body, int endWith = IDOK) {
         editor = std::make_unique<cv2::ThemeEditor>(&doc, PanelPagesOnly());
-        DialogDriver::OnNextDialog(
+        return RunEditorShown(
+            *editor, host,
             [&, first](HWND dlg) {
                 editor->Host().SelectPage(first);
                 body(dlg);
             },
             endWith);
-        return editor->Run(host);
     }
     void Select(int page) { editor->Host().SelectPage(page); }
     cv2::ImagePanel& Panel() { return editor->Panel(); }

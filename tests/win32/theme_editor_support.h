@@ -4,12 +4,15 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 #include "color_dialog_driver.h"
 #include "ids_editor.h"
+#include "screen_capture.h"
 #include "store/ini_document.h"
 #include "themes/image_panel.h"
+#include "themes/theme_editor.h"
 #include "ui/settings_page.h"
 
 namespace cv2test {
@@ -145,6 +148,22 @@ inline void Tick(HWND dlg, int id) {
 // dialog hears of it.
 inline void TypeInto(HWND dlg, int id, const std::wstring& text) {
     SetDlgItemTextW(dlg, id, text.c_str());
+}
+
+// Runs `editor` over `parent` and calls `body` on its dialog once every page has its controls,
+// as the user meets the editor after its first paint; the dialog then ends with `endWith`.
+// Returns what Run returns.
+inline bool RunEditorShown(cv2::ThemeEditor& editor, HWND parent,
+                           const std::function<void(HWND)>& body, int endWith) {
+    DialogDriver::OnNextDialog(
+        [&editor, body](HWND dlg) {
+            cv2::PageHost& pages = editor.Host();
+            EXPECT_TRUE(PumpUntil([&] { return pages.CreatedCount() == pages.PageCount(); }))
+                << "the pages are made after the editor's first paint";
+            body(dlg);
+        },
+        endWith);
+    return editor.Run(parent);
 }
 
 } // namespace cv2test

@@ -34,6 +34,81 @@ class ThemeEditorTest : public cv2test::PickerHostTest {
 
 } // namespace
 
+namespace {
+
+std::vector<std::string> g_events;
+
+// A field page that notes when its controls are made and when the editor paints it.
+class NotingPage : public FieldPage {
+  public:
+    NotingPage(const wchar_t* key, int id, const char* tag) : FieldPage(key, id), m_tag(tag) {}
+    void Create(HWND host) override {
+        g_events.push_back(m_tag + ":Create");
+        FieldPage::Create(host);
+    }
+    void Paint(HDC) override { g_events.push_back(m_tag + ":Paint"); }
+    void OnHostShown() override { g_events.push_back(m_tag + ":HostShown"); }
+
+  private:
+    std::string m_tag;
+};
+
+// A first page that presses OK as soon as its controls are made, and notes when it is made and
+// becomes current (the end of the editor's set-up).
+class OkAtOncePage : public NotingPage {
+  public:
+    OkAtOncePage() : NotingPage(L"A", kFieldA, "A") {}
+    void Create(HWND host) override {
+        NotingPage::Create(host);
+        PostMessageW(host, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    }
+    void OnActivate() override { g_events.push_back("A:Activate"); }
+};
+
+std::vector<SettingsPage*> ThreeNotingPages() {
+    return {new NotingPage(L"A", kFieldA, "A"), new NotingPage(L"B", kFieldB, "B"),
+            new NotingPage(L"C", kFieldC, "C")};
+}
+
+} // namespace
+
+// Customize shows the editor at the cost of its first page: the others are made after it has
+// painted, in order, and then every page hears that the editor is up.
+TEST_F(ThemeEditorTest, OnlyTheFirstPageIsMadeBeforeTheEditorPaintsAndTheRestAfterInOrder) {
+    g_events.clear();
+    ThemeEditor editor(&doc, ThreeNotingPages());
+    cv2test::RunEditorShown(
+        editor, host, [](HWND) {}, IDCANCEL);
+    std::vector<std::string> made;
+    for (const std::string& e : g_events) {
+        if (e != "A:Paint")
+            made.push_back(e);
+    }
+    ASSERT_GE(g_events.size(), 2u);
+    EXPECT_EQ(g_events[0], "A:Create");
+    EXPECT_EQ(g_events[1], "A:Paint") << "the first page is painted before any other is made";
+    EXPECT_EQ(made, (std::vector<std::string>{"A:Create", "B:Create", "C:Create", "A:HostShown",
+                                              "B:HostShown", "C:HostShown"}));
+}
+
+// OK pressed before the first paint: a message posted while the dialog is set up comes before
+// its paint.
+TEST_F(ThemeEditorTest, OkBeforeTheOtherPagesAreMadeMakesThemAndSavesEveryPage) {
+    g_events.clear();
+    doc.DeleteSection(L"Test");
+    doc.SetString(L"Test", L"C", L"kept");
+    ThemeEditor editor(&doc, {new OkAtOncePage, new NotingPage(L"B", kFieldB, "B"),
+                              new NotingPage(L"C", kFieldC, "C")});
+    DialogDriver stuckGuard({}); // cancels the editor should OK not end it
+    EXPECT_TRUE(editor.Run(host));
+    EXPECT_EQ(g_events,
+              (std::vector<std::string>{"A:Create", "A:Activate", "B:Create", "C:Create"}))
+        << "made at OK, after the set-up and before any paint";
+    EXPECT_EQ(doc.GetString(L"Test", L"A", L"-"), L"");
+    EXPECT_EQ(doc.GetString(L"Test", L"B", L"-"), L"");
+    EXPECT_EQ(doc.GetString(L"Test", L"C", L"-"), L"kept");
+}
+
 TEST_F(ThemeEditorTest, CancelAfterChangingSeveralPagesLeavesTheDocumentAsItWas) {
     const std::string before = doc.Serialize();
     ThemeEditor editor(&doc, ThreeFields());
@@ -92,13 +167,13 @@ TEST_F(ThemeEditorTest, ExportMessageSavesEveryPageIntoTheGivenDocumentAndAnswer
     ThemeEditor editor(&doc, ThreeFields());
     IniDocument target;
     LRESULT answer = 0;
-    DialogDriver::OnNextDialog(
+    cv2test::RunEditorShown(
+        editor, host,
         [&](HWND dlg) {
             TypeInto(dlg, kFieldB, L"exported");
             answer = SendMessageW(dlg, ExportThemeMessage(), 0, reinterpret_cast<LPARAM>(&target));
         },
         IDCANCEL);
-    editor.Run(host);
     EXPECT_EQ(answer, 1);
     EXPECT_EQ(target.GetString(L"Test", L"A", L"-"), L"one");
     EXPECT_EQ(target.GetString(L"Test", L"B", L"-"), L"exported");

@@ -102,8 +102,7 @@ class ImportThemePageTest : public cv2test::PickerHostTest {
     // Runs the editor with the Import Theme page and a field page; `body` runs on it.
     void RunEditor(const std::function<void(HWND)>& body, int endWith) {
         ThemeEditor editor(&doc, {new ImportThemePage, new cv2test::FieldPage(L"A", 3001)});
-        DialogDriver::OnNextDialog(body, endWith);
-        editor.Run(host);
+        cv2test::RunEditorShown(editor, host, body, endWith);
     }
 
     cv2test::TempFolder dir;
@@ -261,8 +260,7 @@ TEST_F(ImportThemePageTest, ExportThatCannotCopyAPictureSaysSoAndStillWritesTheW
                 [&](HWND info) {
                     FillInfo(info, dir.File(L"out\\shared.skin"));
                     cv2test::Tick(info, IDC_INFO_COPY_FILES);
-                    DialogDriver::OnNextDialog([&](HWND box) { told = MessageTextOf(box); },
-                                               IDOK);
+                    DialogDriver::OnNextDialog([&](HWND box) { told = MessageTextOf(box); }, IDOK);
                 },
                 IDOK);
             DialogDriver::Click(dlg, IDC_EXPORT_THEME);

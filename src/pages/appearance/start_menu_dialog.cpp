@@ -66,19 +66,40 @@ struct IconRows {
 // The label column's width.
 constexpr int kIconLabelWidth = 84;
 
+// Where a layout puts the two margin rows: each a heading over "Left:" and "Right:" with their
+// boxes, `boxHeight` high, the sublevel row `step` below the first-level one at `top`. From the
+// left, `x` holds where the left label starts, the left box starts and ends, the right label
+// starts, and the right box starts and ends; the headings end `headingRight` from
+// `headingRightFrom`.
+struct MarginRows {
+    int top;
+    int step;
+    int boxHeight;
+    int x[6];
+    From headingRightFrom;
+    int headingRight;
+};
+
+// The margin controls of one level, in the order of the heading, left label and box, right label
+// and box.
+struct MarginLevel {
+    int heading;
+    int leftLabel;
+    int left;
+    int rightLabel;
+    int right;
+};
+const MarginLevel kMarginLevels[] = {
+    {IDC_MENU_FIRST_MARGINS, IDC_MENU_LEFT_LABEL, IDC_MENU_LEFT, IDC_MENU_RIGHT_LABEL,
+     IDC_MENU_RIGHT},
+    {IDC_MENU_SUB_MARGINS, IDC_MENU_SUB_LEFT_LABEL, IDC_MENU_SUB_LEFT, IDC_MENU_SUB_RIGHT_LABEL,
+     IDC_MENU_SUB_RIGHT},
+};
+
 // Portrait: every row under the one before.
 constexpr IconRows kPortraitIcons = {4, 22, 20, From::Right, -4};
+constexpr MarginRows kPortraitMargins = {116, 40, 20, {4, 34, 66, 70, 102, 134}, From::Right, -4};
 const ControlPlace kPortraitPlaces[] = {
-    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Right, -4, 116, 16},
-    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 34, 135, 16},
-    {IDC_MENU_LEFT, From::Left, 34, From::Left, 66, 132, 20},
-    {IDC_MENU_RIGHT_LABEL, From::Left, 70, From::Left, 102, 135, 16},
-    {IDC_MENU_RIGHT, From::Left, 102, From::Left, 134, 132, 20},
-    {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Right, -4, 156, 16},
-    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 34, 175, 16},
-    {IDC_MENU_SUB_LEFT, From::Left, 34, From::Left, 66, 172, 20},
-    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 70, From::Left, 102, 175, 16},
-    {IDC_MENU_SUB_RIGHT, From::Left, 102, From::Left, 134, 172, 20},
     {IDC_MENU_FONT, From::Left, 4, From::Middle, -3, 198, 23},
     {IDC_MENU_NO_IMAGES, From::Middle, 3, From::Right, -4, 200, 20},
     {IDC_MENU_BACKGROUND, From::Left, 4, From::Middle, -3, 225, 23},
@@ -88,17 +109,8 @@ const ControlPlace kPortraitPlaces[] = {
 // Landscape: the icons across the whole width, then the margins on the left half and the
 // buttons on the right half.
 constexpr IconRows kLandscapeIcons = {2, 20, 19, From::Right, -4};
+constexpr MarginRows kLandscapeMargins = {103, 37, 19, {4, 34, 66, 70, 102, 134}, From::Middle, -4};
 const ControlPlace kLandscapePlaces[] = {
-    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Middle, -4, 103, 16},
-    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 34, 122, 16},
-    {IDC_MENU_LEFT, From::Left, 34, From::Left, 66, 119, 19},
-    {IDC_MENU_RIGHT_LABEL, From::Left, 70, From::Left, 102, 122, 16},
-    {IDC_MENU_RIGHT, From::Left, 102, From::Left, 134, 119, 19},
-    {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Middle, -4, 140, 16},
-    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 34, 159, 16},
-    {IDC_MENU_SUB_LEFT, From::Left, 34, From::Left, 66, 156, 19},
-    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 70, From::Left, 102, 159, 16},
-    {IDC_MENU_SUB_RIGHT, From::Left, 102, From::Left, 134, 156, 19},
     {IDC_MENU_FONT, From::Middle, 4, From::Right, -4, 104, 20},
     {IDC_MENU_BACKGROUND, From::Middle, 4, From::Right, -4, 126, 20},
     {IDC_MENU_HIGHLIGHT, From::Middle, 4, From::Right, -4, 148, 20},
@@ -107,27 +119,15 @@ const ControlPlace kLandscapePlaces[] = {
 
 // Square: the icons, then the margins on the left and the buttons in a column on the right.
 constexpr IconRows kSquareIcons = {2, 19, 19, From::Right, -4};
+constexpr MarginRows kSquareMargins = {99, 37, 19, {4, 30, 58, 61, 95, 120}, From::Left, 122};
 const ControlPlace kSquarePlaces[] = {
-    {IDC_MENU_FIRST_MARGINS, From::Left, 4, From::Left, 122, 99, 16},
-    {IDC_MENU_LEFT_LABEL, From::Left, 4, From::Left, 30, 118, 16},
-    {IDC_MENU_LEFT, From::Left, 30, From::Left, 58, 115, 19},
-    {IDC_MENU_RIGHT_LABEL, From::Left, 61, From::Left, 95, 118, 16},
-    {IDC_MENU_RIGHT, From::Left, 95, From::Left, 120, 115, 19},
-    {IDC_MENU_SUB_MARGINS, From::Left, 4, From::Left, 122, 136, 16},
-    {IDC_MENU_SUB_LEFT_LABEL, From::Left, 4, From::Left, 30, 155, 16},
-    {IDC_MENU_SUB_LEFT, From::Left, 30, From::Left, 58, 152, 19},
-    {IDC_MENU_SUB_RIGHT_LABEL, From::Left, 61, From::Left, 95, 155, 16},
-    {IDC_MENU_SUB_RIGHT, From::Left, 95, From::Left, 120, 152, 19},
     {IDC_MENU_FONT, From::Left, 124, From::Right, -4, 99, 20},
     {IDC_MENU_BACKGROUND, From::Left, 124, From::Right, -4, 121, 20},
     {IDC_MENU_HIGHLIGHT, From::Left, 124, From::Right, -4, 143, 20},
     {IDC_MENU_NO_IMAGES, From::Left, 124, From::Right, -4, 166, 17},
 };
 
-// Every control's place in a layout: the icon rows, then the layout's other places.
-template <size_t N>
-std::vector<ControlPlace> LayoutPlaces(const IconRows& icons, const ControlPlace (&rest)[N]) {
-    std::vector<ControlPlace> places;
+void AddIconPlaces(const IconRows& icons, std::vector<ControlPlace>& places) {
     for (size_t i = 0; i < kStartMenuIconCount; ++i) {
         const IconRow& row = kIconRows[i];
         const int top = icons.top + static_cast<int>(i) * icons.step;
@@ -137,7 +137,30 @@ std::vector<ControlPlace> LayoutPlaces(const IconRows& icons, const ControlPlace
         places.push_back({row.browse, icons.rightFrom, icons.right - 24, icons.rightFrom,
                           icons.right, top, icons.height});
     }
-    places.insert(places.end(), rest, rest + N);
+}
+
+// The labels sit 3 pixels lower than the boxes, so their text lines up with the boxes' text.
+void AddMarginPlaces(const MarginRows& m, std::vector<ControlPlace>& places) {
+    int top = m.top;
+    for (const MarginLevel& level : kMarginLevels) {
+        const int row = top + 16;
+        places.push_back({level.heading, From::Left, 4, m.headingRightFrom, m.headingRight, top, 16});
+        places.push_back({level.leftLabel, From::Left, m.x[0], From::Left, m.x[1], row + 3, 16});
+        places.push_back({level.left, From::Left, m.x[1], From::Left, m.x[2], row, m.boxHeight});
+        places.push_back({level.rightLabel, From::Left, m.x[3], From::Left, m.x[4], row + 3, 16});
+        places.push_back({level.right, From::Left, m.x[4], From::Left, m.x[5], row, m.boxHeight});
+        top += m.step;
+    }
+}
+
+// Every control's place in a layout: the icon rows, the margin rows, then the buttons.
+template <size_t N>
+std::vector<ControlPlace> LayoutPlaces(const IconRows& icons, const MarginRows& margins,
+                                       const ControlPlace (&buttons)[N]) {
+    std::vector<ControlPlace> places;
+    AddIconPlaces(icons, places);
+    AddMarginPlaces(margins, places);
+    places.insert(places.end(), buttons, buttons + N);
     return places;
 }
 
@@ -161,13 +184,13 @@ class StartMenuDialog : public FullScreenDialog {
     const ControlPlace* Places(size_t* count) const override {
         switch (StartMenuLayout(ScreenWidth(), ScreenHeight())) {
         case DialogLayout::Square:
-            m_places = LayoutPlaces(kSquareIcons, kSquarePlaces);
+            m_places = LayoutPlaces(kSquareIcons, kSquareMargins, kSquarePlaces);
             break;
         case DialogLayout::Portrait:
-            m_places = LayoutPlaces(kPortraitIcons, kPortraitPlaces);
+            m_places = LayoutPlaces(kPortraitIcons, kPortraitMargins, kPortraitPlaces);
             break;
         default:
-            m_places = LayoutPlaces(kLandscapeIcons, kLandscapePlaces);
+            m_places = LayoutPlaces(kLandscapeIcons, kLandscapeMargins, kLandscapePlaces);
             break;
         }
         *count = m_places.size();

@@ -118,18 +118,15 @@ TEST_F(BarBackgroundPages, SoftKeysLeavesTheListAndCheckBoxAsTheyWere) {
 TEST_F(BarBackgroundPages, SettingsOpensTheBackgroundDialogOnThePagesFill) {
     doc = cv2test::ParsedDoc("[Topbar]\r\nMode=gradient\r\n");
     int shownMode = -1;
-    RunEditor(cv2test::kTaskbarBackgroundPage, [&](HWND dlg) {
-        OpenSettings(
-            dlg,
-            [&](HWND background) {
-                shownMode = static_cast<int>(
-                    SendDlgItemMessageW(background, IDC_BACKGROUND_MODE, CB_GETCURSEL, 0, 0));
-                SendDlgItemMessageW(background, IDC_BACKGROUND_MODE, CB_SETCURSEL, 4, 0);
-                SendMessageW(background, WM_COMMAND, MAKEWPARAM(IDC_BACKGROUND_MODE, CBN_SELCHANGE),
-                             0);
-            },
-            IDOK);
-    });
+    RunSettingsDialog(
+        cv2test::kTaskbarBackgroundPage,
+        [&](HWND background) {
+            shownMode = static_cast<int>(
+                SendDlgItemMessageW(background, IDC_BACKGROUND_MODE, CB_GETCURSEL, 0, 0));
+            SendDlgItemMessageW(background, IDC_BACKGROUND_MODE, CB_SETCURSEL, 4, 0);
+            SendMessageW(background, WM_COMMAND, MAKEWPARAM(IDC_BACKGROUND_MODE, CBN_SELCHANGE), 0);
+        },
+        IDOK);
     EXPECT_EQ(shownMode, 3);
     EXPECT_EQ(doc.GetString(L"Topbar", L"Mode", L"?"), L"none");
 }
@@ -150,17 +147,14 @@ TEST_F(BarBackgroundPages, SettingsOfAPageThatIsNotCurrentDoesNothing) {
 
 TEST_F(BarBackgroundPages, CancellingTheTodayMenubarDialogKeepsFontAndCheckBox) {
     doc = cv2test::ParsedDoc("[Today Menubar]\r\nDisplay New Text=TRUE\r\nStyle=bold\r\n");
-    RunEditor(cv2test::kTodayMenubarPage, [&](HWND dlg) {
-        OpenSettings(
-            dlg,
-            [](HWND today) {
-                Tick(today, IDC_TODAY_DISPLAY_NEW);
-                DialogDriver::OnNextDialog([](HWND picker) { Tick(picker, IDC_FONT_ITALIC); },
-                                           IDOK);
-                DialogDriver::Click(today, IDC_TODAY_FONT);
-            },
-            IDCANCEL);
-    });
+    RunSettingsDialog(
+        cv2test::kTodayMenubarPage,
+        [](HWND today) {
+            Tick(today, IDC_TODAY_DISPLAY_NEW);
+            DialogDriver::OnNextDialog([](HWND picker) { Tick(picker, IDC_FONT_ITALIC); }, IDOK);
+            DialogDriver::Click(today, IDC_TODAY_FONT);
+        },
+        IDCANCEL);
     EXPECT_EQ(doc.GetString(L"Today Menubar", L"Display New Text", L"?"), L"TRUE");
     EXPECT_EQ(doc.GetString(L"Today Menubar", L"Style", L"?"), L"bold");
 }
@@ -168,18 +162,15 @@ TEST_F(BarBackgroundPages, CancellingTheTodayMenubarDialogKeepsFontAndCheckBox) 
 TEST_F(BarBackgroundPages, OkInTheTodayMenubarDialogTakesFontAndCheckBox) {
     doc = cv2test::ParsedDoc("[Today Menubar]\r\nDisplay New Text=TRUE\r\nStyle=bold\r\n");
     bool checked = false;
-    RunEditor(cv2test::kTodayMenubarPage, [&](HWND dlg) {
-        OpenSettings(
-            dlg,
-            [&](HWND today) {
-                checked = IsDlgButtonChecked(today, IDC_TODAY_DISPLAY_NEW) == BST_CHECKED;
-                Tick(today, IDC_TODAY_DISPLAY_NEW);
-                DialogDriver::OnNextDialog([](HWND picker) { Tick(picker, IDC_FONT_ITALIC); },
-                                           IDOK);
-                DialogDriver::Click(today, IDC_TODAY_FONT);
-            },
-            IDOK);
-    });
+    RunSettingsDialog(
+        cv2test::kTodayMenubarPage,
+        [&](HWND today) {
+            checked = IsDlgButtonChecked(today, IDC_TODAY_DISPLAY_NEW) == BST_CHECKED;
+            Tick(today, IDC_TODAY_DISPLAY_NEW);
+            DialogDriver::OnNextDialog([](HWND picker) { Tick(picker, IDC_FONT_ITALIC); }, IDOK);
+            DialogDriver::Click(today, IDC_TODAY_FONT);
+        },
+        IDOK);
     EXPECT_TRUE(checked);
     EXPECT_EQ(doc.GetString(L"Today Menubar", L"Display New Text", L"?"), L"FALSE");
     EXPECT_EQ(doc.GetString(L"Today Menubar", L"Style", L"?"), L"bold,italic");
@@ -195,16 +186,14 @@ TEST_F(BarBackgroundPages, ApplicationMenubarWithoutMarginsSavesBothAsThree) {
 TEST_F(BarBackgroundPages, MenubarDialogGivesItsPathsAndMarginsBack) {
     doc = cv2test::ParsedDoc("[Menubar]\r\nNormal=\\n.png\r\nLeft=5\r\n");
     std::wstring shown;
-    RunEditor(cv2test::kApplicationMenubarPage, [&](HWND dlg) {
-        OpenSettings(
-            dlg,
-            [&](HWND images) {
-                shown = cv2test::DlgText(images, IDC_BUTTONS_NORMAL);
-                SetDlgItemTextW(images, IDC_BUTTONS_DISABLED, L"\\d.png");
-                SetDlgItemTextW(images, IDC_BUTTONS_RIGHT, L"9");
-            },
-            IDOK);
-    });
+    RunSettingsDialog(
+        cv2test::kApplicationMenubarPage,
+        [&](HWND images) {
+            shown = cv2test::DlgText(images, IDC_BUTTONS_NORMAL);
+            SetDlgItemTextW(images, IDC_BUTTONS_DISABLED, L"\\d.png");
+            SetDlgItemTextW(images, IDC_BUTTONS_RIGHT, L"9");
+        },
+        IDOK);
     EXPECT_EQ(shown, L"\\n.png");
     EXPECT_EQ(doc.GetString(L"Menubar", L"Disabled", L"?"), L"\\d.png");
     EXPECT_EQ(doc.GetString(L"Menubar", L"Left", L"?"), L"5");
@@ -214,19 +203,17 @@ TEST_F(BarBackgroundPages, MenubarDialogGivesItsPathsAndMarginsBack) {
 TEST_F(BarBackgroundPages, SoftKeyDialogShowsEachKeysPicturesAndKeepsBoth) {
     doc = cv2test::ParsedDoc("[SoftKey]\r\nLeft Button=\\lb.png\r\nRight Pressed=\\rp.png\r\n");
     std::wstring left, right;
-    RunEditor(cv2test::kSoftKeysPage, [&](HWND dlg) {
-        OpenSettings(
-            dlg,
-            [&](HWND keys) {
-                left = cv2test::DlgText(keys, IDC_SOFTKEY_NORMAL);
-                SetDlgItemTextW(keys, IDC_SOFTKEY_DISABLED, L"\\ld.png");
-                SendDlgItemMessageW(keys, IDC_SOFTKEY_KEY, CB_SETCURSEL, 1, 0);
-                SendMessageW(keys, WM_COMMAND, MAKEWPARAM(IDC_SOFTKEY_KEY, CBN_SELCHANGE), 0);
-                right = cv2test::DlgText(keys, IDC_SOFTKEY_PRESSED);
-                SetDlgItemTextW(keys, IDC_SOFTKEY_NORMAL, L"\\rb.png");
-            },
-            IDOK);
-    });
+    RunSettingsDialog(
+        cv2test::kSoftKeysPage,
+        [&](HWND keys) {
+            left = cv2test::DlgText(keys, IDC_SOFTKEY_NORMAL);
+            SetDlgItemTextW(keys, IDC_SOFTKEY_DISABLED, L"\\ld.png");
+            SendDlgItemMessageW(keys, IDC_SOFTKEY_KEY, CB_SETCURSEL, 1, 0);
+            SendMessageW(keys, WM_COMMAND, MAKEWPARAM(IDC_SOFTKEY_KEY, CBN_SELCHANGE), 0);
+            right = cv2test::DlgText(keys, IDC_SOFTKEY_PRESSED);
+            SetDlgItemTextW(keys, IDC_SOFTKEY_NORMAL, L"\\rb.png");
+        },
+        IDOK);
     EXPECT_EQ(left, L"\\lb.png");
     EXPECT_EQ(right, L"\\rp.png");
     EXPECT_EQ(doc.GetString(L"SoftKey", L"Left Disabled", L"?"), L"\\ld.png");
@@ -236,11 +223,9 @@ TEST_F(BarBackgroundPages, SoftKeyDialogShowsEachKeysPicturesAndKeepsBoth) {
 
 TEST_F(BarBackgroundPages, CancelledSoftKeyDialogChangesNoPicture) {
     doc = cv2test::ParsedDoc("[SoftKey]\r\nLeft Button=\\lb.png\r\n");
-    RunEditor(cv2test::kSoftKeysPage, [&](HWND dlg) {
-        OpenSettings(
-            dlg, [&](HWND keys) { SetDlgItemTextW(keys, IDC_SOFTKEY_NORMAL, L"\\x.png"); },
-            IDCANCEL);
-    });
+    RunSettingsDialog(
+        cv2test::kSoftKeysPage,
+        [&](HWND keys) { SetDlgItemTextW(keys, IDC_SOFTKEY_NORMAL, L"\\x.png"); }, IDCANCEL);
     EXPECT_EQ(doc.GetString(L"SoftKey", L"Left Button", L"?"), L"\\lb.png");
 }
 

@@ -127,22 +127,17 @@ TEST_F(PanelImagePages, DontUseImagesLeavesTheSubmenuArrowRowEnabled) {
     doc = cv2test::ParsedDoc("[Start Menu Skin]\r\nUse Colors=TRUE\r\n");
     bool arrow = false, arrowBrowse = false, program = true, helpBrowse = true, margin = true,
          background = false;
-    RunEditor(
+    RunSettingsDialog(
         cv2test::kStartMenuSkinPage,
-        [&](HWND dlg) {
-            OpenSettings(
-                dlg,
-                [&](HWND menu) {
-                    arrow = Enabled(menu, IDC_MENU_ARROW);
-                    arrowBrowse = Enabled(menu, IDC_MENU_ARROW_BROWSE);
-                    program = Enabled(menu, IDC_MENU_PROGRAM);
-                    helpBrowse = Enabled(menu, IDC_MENU_HELP_BROWSE);
-                    margin = Enabled(menu, IDC_MENU_SUB_RIGHT);
-                    background = Enabled(menu, IDC_MENU_BACKGROUND);
-                },
-                IDCANCEL);
+        [&](HWND menu) {
+            arrow = Enabled(menu, IDC_MENU_ARROW);
+            arrowBrowse = Enabled(menu, IDC_MENU_ARROW_BROWSE);
+            program = Enabled(menu, IDC_MENU_PROGRAM);
+            helpBrowse = Enabled(menu, IDC_MENU_HELP_BROWSE);
+            margin = Enabled(menu, IDC_MENU_SUB_RIGHT);
+            background = Enabled(menu, IDC_MENU_BACKGROUND);
         },
-        IDCANCEL);
+        IDCANCEL, IDCANCEL);
     EXPECT_TRUE(arrow);
     EXPECT_TRUE(arrowBrowse);
     EXPECT_FALSE(program);
@@ -154,16 +149,14 @@ TEST_F(PanelImagePages, DontUseImagesLeavesTheSubmenuArrowRowEnabled) {
 TEST_F(PanelImagePages, UncheckingDontUseImagesDisablesTheColourButtons) {
     doc = cv2test::ParsedDoc("[Start Menu Skin]\r\nUse Colors=TRUE\r\n");
     bool program = false, highlight = true;
-    RunEditor(cv2test::kStartMenuSkinPage, [&](HWND dlg) {
-        OpenSettings(
-            dlg,
-            [&](HWND menu) {
-                Tick(menu, IDC_MENU_NO_IMAGES);
-                program = Enabled(menu, IDC_MENU_PROGRAM);
-                highlight = Enabled(menu, IDC_MENU_HIGHLIGHT);
-            },
-            IDOK);
-    });
+    RunSettingsDialog(
+        cv2test::kStartMenuSkinPage,
+        [&](HWND menu) {
+            Tick(menu, IDC_MENU_NO_IMAGES);
+            program = Enabled(menu, IDC_MENU_PROGRAM);
+            highlight = Enabled(menu, IDC_MENU_HIGHLIGHT);
+        },
+        IDOK);
     EXPECT_TRUE(program);
     EXPECT_FALSE(highlight);
     EXPECT_EQ(doc.GetString(L"Start Menu Skin", L"Use Colors", L"?"), L"FALSE");
@@ -173,17 +166,15 @@ TEST_F(PanelImagePages, StartMenuDialogOkTakesIconsAndMarginsButNotThePictures) 
     doc = cv2test::ParsedDoc("[Start Menu Skin]\r\nStart Menu Picture=\\pic.png\r\n"
                              "Find Icon=\\find.png\r\n");
     std::wstring find;
-    RunEditor(cv2test::kStartMenuSkinPage, [&](HWND dlg) {
-        OpenSettings(
-            dlg,
-            [&](HWND menu) {
-                find = cv2test::DlgText(menu, IDC_MENU_FIND);
-                SetDlgItemTextW(menu, IDC_MENU_ARROW, L"\\arrow.png");
-                SetDlgItemTextW(menu, IDC_MENU_SUB_LEFT, L"12");
-                SetDlgItemTextW(menu, IDC_MENU_RIGHT, L"letters");
-            },
-            IDOK);
-    });
+    RunSettingsDialog(
+        cv2test::kStartMenuSkinPage,
+        [&](HWND menu) {
+            find = cv2test::DlgText(menu, IDC_MENU_FIND);
+            SetDlgItemTextW(menu, IDC_MENU_ARROW, L"\\arrow.png");
+            SetDlgItemTextW(menu, IDC_MENU_SUB_LEFT, L"12");
+            SetDlgItemTextW(menu, IDC_MENU_RIGHT, L"letters");
+        },
+        IDOK);
     EXPECT_EQ(find, L"\\find.png");
     EXPECT_EQ(doc.GetString(L"Start Menu Skin", L"Start Menu Picture", L"?"), L"\\pic.png");
     EXPECT_EQ(doc.GetString(L"Start Menu Skin", L"Submenu Arrow", L"?"), L"\\arrow.png");

@@ -166,24 +166,19 @@ TEST_F(PanelPagesScreens, StartMenuDialog) {
 // across the whole width instead of sharing it with the margins.
 TEST_F(PanelPagesScreens, StartMenuDialogPathBoxesTakeNearlyHalfTheWidthOrMore) {
     bool checked = false;
-    RunEditor(
+    RunSettingsDialog(
         cv2test::kStartMenuSkinPage,
-        [&](HWND dlg) {
-            OpenSettings(
-                dlg,
-                [&](HWND menu) {
-                    RECT client;
-                    GetClientRect(menu, &client);
-                    for (int id : {IDC_MENU_PROGRAM, IDC_MENU_SETTINGS, IDC_MENU_FIND,
-                                   IDC_MENU_HELP, IDC_MENU_ARROW}) {
-                        RECT box;
-                        GetWindowRect(GetDlgItem(menu, id), &box);
-                        EXPECT_GE(100 * (box.right - box.left), 45 * client.right) << id;
-                    }
-                    checked = true;
-                },
-                IDCANCEL);
+        [&](HWND menu) {
+            RECT client;
+            GetClientRect(menu, &client);
+            for (int id : {IDC_MENU_PROGRAM, IDC_MENU_SETTINGS, IDC_MENU_FIND, IDC_MENU_HELP,
+                           IDC_MENU_ARROW}) {
+                RECT box;
+                GetWindowRect(GetDlgItem(menu, id), &box);
+                EXPECT_GE(100 * (box.right - box.left), 45 * client.right) << id;
+            }
+            checked = true;
         },
-        IDCANCEL);
+        IDCANCEL, IDCANCEL);
     EXPECT_TRUE(checked);
 }

@@ -59,6 +59,13 @@ class PanelPagesTest : public PickerHostTest {
             },
             endWith);
     }
+    // Runs the editor on page `page`, presses its "Settings" button, calls `inDialog` in the
+    // dialog that opens and ends that dialog with `dialogEnd`, then the editor with `editorEnd`.
+    bool RunSettingsDialog(int page, const std::function<void(HWND)>& inDialog, int dialogEnd,
+                           int editorEnd = IDOK) {
+        return RunEditor(
+            page, [&](HWND dlg) { OpenSettings(dlg, inDialog, dialogEnd); }, editorEnd);
+    }
     void Select(int page) { editor->Host().SelectPage(page); }
     cv2::ImagePanel& Panel() { return editor->Panel(); }
     // Clicks the panel's "Settings" button; `inDialog` runs in the dialog it opens, which is

@@ -144,7 +144,8 @@ void AddMarginPlaces(const MarginRows& m, std::vector<ControlPlace>& places) {
     int top = m.top;
     for (const MarginLevel& level : kMarginLevels) {
         const int row = top + 16;
-        places.push_back({level.heading, From::Left, 4, m.headingRightFrom, m.headingRight, top, 16});
+        places.push_back(
+            {level.heading, From::Left, 4, m.headingRightFrom, m.headingRight, top, 16});
         places.push_back({level.leftLabel, From::Left, m.x[0], From::Left, m.x[1], row + 3, 16});
         places.push_back({level.left, From::Left, m.x[1], From::Left, m.x[2], row, m.boxHeight});
         places.push_back({level.rightLabel, From::Left, m.x[3], From::Left, m.x[4], row + 3, 16});

@@ -68,14 +68,14 @@ constexpr int kIconLabelWidth = 84;
 
 // Where a layout puts the two margin rows: each a heading over "Left:" and "Right:" with their
 // boxes, `boxHeight` high, the sublevel row `step` below the first-level one at `top`. From the
-// left, `x` holds where the left label starts, the left box starts and ends, the right label
-// starts, and the right box starts and ends; the headings end `headingRight` from
+// left, `x` holds six columns: where the left label starts, the left box starts and ends, the right
+// label starts, and the right box starts and ends; the headings end `headingRight` from
 // `headingRightFrom`.
 struct MarginRows {
     int top;
     int step;
     int boxHeight;
-    int x[6];
+    const int* x;
     From headingRightFrom;
     int headingRight;
 };
@@ -96,9 +96,13 @@ const MarginLevel kMarginLevels[] = {
      IDC_MENU_SUB_RIGHT},
 };
 
+// The margin columns of portrait and landscape screens, and of the narrower square ones.
+constexpr int kMarginColumns[6] = {4, 34, 66, 70, 102, 134};
+constexpr int kSquareMarginColumns[6] = {4, 30, 58, 61, 95, 120};
+
 // Portrait: every row under the one before.
 constexpr IconRows kPortraitIcons = {4, 22, 20, From::Right, -4};
-constexpr MarginRows kPortraitMargins = {116, 40, 20, {4, 34, 66, 70, 102, 134}, From::Right, -4};
+constexpr MarginRows kPortraitMargins = {116, 40, 20, kMarginColumns, From::Right, -4};
 const ControlPlace kPortraitPlaces[] = {
     {IDC_MENU_FONT, From::Left, 4, From::Middle, -3, 198, 23},
     {IDC_MENU_NO_IMAGES, From::Middle, 3, From::Right, -4, 200, 20},
@@ -109,7 +113,7 @@ const ControlPlace kPortraitPlaces[] = {
 // Landscape: the icons across the whole width, then the margins on the left half and the
 // buttons on the right half.
 constexpr IconRows kLandscapeIcons = {2, 20, 19, From::Right, -4};
-constexpr MarginRows kLandscapeMargins = {103, 37, 19, {4, 34, 66, 70, 102, 134}, From::Middle, -4};
+constexpr MarginRows kLandscapeMargins = {103, 37, 19, kMarginColumns, From::Middle, -4};
 const ControlPlace kLandscapePlaces[] = {
     {IDC_MENU_FONT, From::Middle, 4, From::Right, -4, 104, 20},
     {IDC_MENU_BACKGROUND, From::Middle, 4, From::Right, -4, 126, 20},
@@ -119,7 +123,7 @@ const ControlPlace kLandscapePlaces[] = {
 
 // Square: the icons, then the margins on the left and the buttons in a column on the right.
 constexpr IconRows kSquareIcons = {2, 19, 19, From::Right, -4};
-constexpr MarginRows kSquareMargins = {99, 37, 19, {4, 30, 58, 61, 95, 120}, From::Left, 122};
+constexpr MarginRows kSquareMargins = {99, 37, 19, kSquareMarginColumns, From::Left, 122};
 const ControlPlace kSquarePlaces[] = {
     {IDC_MENU_FONT, From::Left, 124, From::Right, -4, 99, 20},
     {IDC_MENU_BACKGROUND, From::Left, 124, From::Right, -4, 121, 20},

@@ -52,7 +52,8 @@ class ControlPagesE2E : public DeviceFixture {
         HWND editor = OpenedDialog(m_main);
         // The editor as the user meets it: its later pages are made once it has painted, System
         // Colors last.
-        WaitFor([&] { return editor && GetDlgItem(editor, IDC_COLORS_CHANGE); });
+        if (editor && !WaitFor([&] { return GetDlgItem(editor, IDC_COLORS_CHANGE) != nullptr; }))
+            ADD_FAILURE() << "the editor's later pages were never made";
         return editor;
     }
 

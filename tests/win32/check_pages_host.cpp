@@ -6,7 +6,6 @@
 
 #include "ids_behaviour.h"
 #include "platform/shell.h"
-#include "rule_page_support.h" // ListBoxTexts
 #include "screen_capture.h"
 #include "store/scale.h"
 #include "store/screen.h"
@@ -195,6 +194,18 @@ std::wstring WindowText(HWND control) {
     std::vector<wchar_t> text(GetWindowTextLengthW(control) + 1, L'\0');
     GetWindowTextW(control, text.data(), static_cast<int>(text.size()));
     return text.data();
+}
+
+std::vector<std::wstring> ListBoxTexts(HWND list) {
+    std::vector<std::wstring> texts;
+    const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+        std::wstring text(static_cast<size_t>(SendMessageW(list, LB_GETTEXTLEN, i, 0)) + 1, L'\0');
+        const LRESULT got = SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(&text[0]));
+        text.resize(got > 0 ? static_cast<size_t>(got) : 0);
+        texts.push_back(text);
+    }
+    return texts;
 }
 
 } // namespace cv2test

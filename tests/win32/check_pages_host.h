@@ -78,5 +78,7 @@ bool RowChecked(HWND list, int row);
 void SetRowChecked(HWND list, int row, bool on);
 
 std::wstring WindowText(HWND control);
+// The rows of a list box, top to bottom.
+std::vector<std::wstring> ListBoxTexts(HWND list);
 
 } // namespace cv2test

@@ -10,18 +10,6 @@ cv2::IniDocument DocOf(const std::string& text) {
     return doc;
 }
 
-std::vector<std::wstring> ListBoxTexts(HWND list) {
-    std::vector<std::wstring> texts;
-    const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-        std::wstring text(static_cast<size_t>(SendMessageW(list, LB_GETTEXTLEN, i, 0)) + 1, L'\0');
-        const LRESULT got = SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(&text[0]));
-        text.resize(got > 0 ? static_cast<size_t>(got) : 0);
-        texts.push_back(text);
-    }
-    return texts;
-}
-
 std::wstring ItemText(HWND dialog, int id) {
     return WindowText(GetDlgItem(dialog, id));
 }

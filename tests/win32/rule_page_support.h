@@ -18,8 +18,6 @@ namespace cv2test {
 
 // A document parsed from file text.
 cv2::IniDocument DocOf(const std::string& text);
-// The rows of a list box, top to bottom.
-std::vector<std::wstring> ListBoxTexts(HWND list);
 
 // Dialog steps.
 std::wstring ItemText(HWND dialog, int id);

@@ -281,10 +281,8 @@ ZipResult ZipReader::Inflate(const ZipEntry& entry, ArchiveSink& sink, uint32_t&
     z_stream& z = stream.z;
     uint64_t read = 0;
     uint64_t produced = 0;
-    for (int status = Z_OK; status != Z_STREAM_END;) {
-        if (z.avail_in == 0) {
-            if (read == entry.packedSize)
-                return Problem(ZipProblem::Damaged, entry.name);
+    for (;;) {
+        if (z.avail_in == 0 && read < entry.packedSize) {
             const size_t n =
                 static_cast<size_t>(std::min<uint64_t>(kPiece, entry.packedSize - read));
             if (!m_source->ReadAt(entry.dataOffset + read, m_in.data(), n))
@@ -295,7 +293,8 @@ ZipResult ZipReader::Inflate(const ZipEntry& entry, ArchiveSink& sink, uint32_t&
         }
         z.next_out = m_out.data();
         z.avail_out = static_cast<uInt>(m_out.size());
-        status = inflate(&z, Z_NO_FLUSH);
+        // Z_BUF_ERROR: no progress is possible, the packed bytes ended before the stream did.
+        const int status = inflate(&z, Z_NO_FLUSH);
         if (status != Z_OK && status != Z_STREAM_END)
             return Problem(ZipProblem::Damaged, entry.name);
         const size_t got = m_out.size() - z.avail_out;
@@ -305,6 +304,8 @@ ZipResult ZipReader::Inflate(const ZipEntry& entry, ArchiveSink& sink, uint32_t&
         crc = Crc(crc, m_out.data(), got);
         if (got > 0 && !sink.Write(m_out.data(), got))
             return Problem(ZipProblem::WriteFailed, entry.name);
+        if (status == Z_STREAM_END)
+            break;
     }
     return Problem(produced == entry.size ? ZipProblem::None : ZipProblem::Damaged, entry.name);
 }

@@ -230,9 +230,12 @@ bool MoveIntoPlace(const std::wstring& temp, const std::wstring& target, bool re
 }
 
 void RemoveTemps(const std::vector<PlannedTheme>& themes) {
-    for (const PlannedTheme& theme : themes)
-        if (!theme.temp.empty() && FileAttributes(theme.temp) != kNoFileAttributes)
-            RemoveFolderTree(theme.temp);
+    for (const PlannedTheme& theme : themes) {
+        const std::wstring folder =
+            theme.temp.substr(0, theme.temp.size() - (theme.temp.empty() ? 0 : 1));
+        if (!folder.empty() && FileAttributes(folder) != kNoFileAttributes)
+            RemoveFolderTree(folder);
+    }
 }
 
 InstallResult UnpackAll(ZipReader& reader, const std::wstring& themesFolder,

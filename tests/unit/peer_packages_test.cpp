@@ -16,7 +16,8 @@
 using namespace cv2;
 using namespace cv2test;
 
-namespace {
+// Named, not anonymous: the parameterised suite's types may not use the anonymous namespace.
+namespace peers {
 
 struct Peer {
     const char* package;
@@ -53,7 +54,11 @@ std::vector<std::wstring> FilesBelow(const std::wstring& folder, const std::wstr
 
 class PeerPackages : public ::testing::TestWithParam<Peer> {};
 
-} // namespace
+} // namespace peers
+
+using peers::kPeers;
+using peers::Peer;
+using peers::PeerPackages;
 
 TEST_P(PeerPackages, InstallAndEveryFileEqualsTheOnePacked) {
     const std::wstring peers = PeerFolder();

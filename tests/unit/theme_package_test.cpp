@@ -14,7 +14,8 @@
 using namespace cv2;
 using namespace cv2test;
 
-namespace {
+// Named, not anonymous: a parameterised suite below derives from the fixture.
+namespace install {
 
 BuiltEntry File(const std::string& name, const std::string& data, bool deflate = true) {
     return Entry(name, data, deflate);
@@ -60,7 +61,9 @@ class ThemePackage : public ::testing::Test {
 
 using Names = std::vector<std::wstring>;
 
-} // namespace
+} // namespace install
+
+using namespace install;
 
 TEST_F(ThemePackage, TopFolderBecomesTheThemesFolder) {
     const InstallResult result = Install(
@@ -190,8 +193,9 @@ TEST_F(ThemePackage, MissingPackageCannotBeOpened) {
               L"The package cannot be opened:\r\n" + m_dir.File(L"gone.zip"));
 }
 
-// Hostile packages: each refused with the message of its reason, and nothing written.
-namespace {
+// Hostile packages: each refused with the message of its reason, and nothing written. Named,
+// not anonymous: the parameterised suite's types may not use the anonymous namespace.
+namespace hostile {
 
 struct Hostile {
     const char* name;
@@ -262,7 +266,11 @@ const Hostile kHostile[] = {
 
 class HostilePackage : public ThemePackage, public ::testing::WithParamInterface<Hostile> {};
 
-} // namespace
+} // namespace hostile
+
+using hostile::Hostile;
+using hostile::HostilePackage;
+using hostile::kHostile;
 
 TEST_P(HostilePackage, IsRefusedWithItsReasonAndWritesNothing) {
     m_dir.MakeFolder(L"Themes\\Kept");

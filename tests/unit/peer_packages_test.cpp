@@ -59,6 +59,8 @@ class PeerPackages : public ::testing::TestWithParam<Peer> {};
 using peers::kPeers;
 using peers::Peer;
 using peers::PeerPackages;
+using peers::PeerFolder;
+using peers::FilesBelow;
 
 TEST_P(PeerPackages, InstallAndEveryFileEqualsTheOnePacked) {
     const std::wstring peers = PeerFolder();

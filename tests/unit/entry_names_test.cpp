@@ -35,6 +35,7 @@ TEST(EntryNames, RootsDrivesAndSharesAreAbsolute) {
     EXPECT_EQ(Check(L"\\\\server\\share\\a"), ZipProblem::AbsolutePath);
     EXPECT_EQ(Check(L"c:a"), ZipProblem::AbsolutePath);
     EXPECT_EQ(Check(L"D:/a"), ZipProblem::AbsolutePath);
+    EXPECT_EQ(Check(L"a:b"), ZipProblem::AbsolutePath) << "drive a:, relative to its folder";
 }
 
 TEST(EntryNames, DotDotAnywhereLeavesTheFolder) {
@@ -50,7 +51,7 @@ TEST(EntryNames, EmptyAndDotPartsAreUnfit) {
 }
 
 TEST(EntryNames, CharactersWindowsRefusesAreUnfit) {
-    for (const wchar_t* name : {L"a:b", L"a*", L"a?", L"a|b", L"a<b", L"a>b", L"a\"b", L"a\tb"})
+    for (const wchar_t* name : {L"ab:c", L"a*", L"a?", L"a|b", L"a<b", L"a>b", L"a\"b", L"a\tb"})
         EXPECT_EQ(Check(name), ZipProblem::UnfitName) << name;
     EXPECT_EQ(Check(std::wstring(L"a\0b", 3)), ZipProblem::UnfitName);
 }

@@ -56,11 +56,11 @@ class PeerPackages : public ::testing::TestWithParam<Peer> {};
 
 } // namespace peers
 
+using peers::FilesBelow;
 using peers::kPeers;
 using peers::Peer;
-using peers::PeerPackages;
 using peers::PeerFolder;
-using peers::FilesBelow;
+using peers::PeerPackages;
 
 TEST_P(PeerPackages, InstallAndEveryFileEqualsTheOnePacked) {
     const std::wstring peers = PeerFolder();

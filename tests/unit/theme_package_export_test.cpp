@@ -122,6 +122,7 @@ TEST_F(PackageExportTest, ExportedPackageInstallsAsAThemeWithNothingMissing) {
     ASSERT_TRUE(ExportPackage(theme, m_edited, L"Blue Glass", kKeys).written);
     RemoveFolderTree(m_dir.File(L"art1"));
     RemoveFolderTree(m_dir.File(L"art2"));
+    m_dir.MakeFolder(L"fresh");
     const InstallResult installed =
         InstallPackage(m_dir.File(L"out\\blue.zip"), m_dir.File(L"fresh\\Themes"), nullptr);
     ASSERT_EQ(installed.problem, InstallProblem::None) << InstallMessage(installed).c_str();

@@ -156,8 +156,9 @@ TEST_F(ThemePackage, DamagedLastEntryLeavesNothingInstalled) {
 }
 
 TEST_F(ThemePackage, WriteThatFailsLeavesNothingAndNamesTheFile) {
+    m_dir.Write(L"blue.zip", BuildZip({File("Blue/blue.skin", kSkin)}));
     InjectWriteFault(WriteStep::Write, 112);
-    const InstallResult result = Install({File("Blue/blue.skin", kSkin)});
+    const InstallResult result = InstallPackage(m_dir.File(L"blue.zip"), Themes(), nullptr);
     InjectWriteFault(WriteStep::None, 0);
     EXPECT_EQ(result.problem, InstallProblem::CannotWrite);
     EXPECT_NE(result.detail.find(L"blue.skin"), std::wstring::npos);

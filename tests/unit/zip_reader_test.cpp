@@ -113,6 +113,16 @@ TEST_F(ZipReaderTest, FoldersAreListedAndUnpackToNothing) {
     EXPECT_EQ(text, "");
 }
 
+TEST_F(ZipReaderTest, FolderDeclaringASizeUnpacksToNothing) {
+    BuiltEntry folder = Entry("Blue/", "");
+    folder.size = 512;
+    folder.method = 8;
+    ASSERT_TRUE(Open({folder, Entry("Blue/a.skin", "a")}).Ok());
+    std::string text = "x";
+    EXPECT_TRUE(Extract(0, text).Ok());
+    EXPECT_EQ(text, "");
+}
+
 TEST_F(ZipReaderTest, BackslashesSeparateFoldersAsSlashesDo) {
     ASSERT_TRUE(Open({Entry("Blue\\pics\\a.bmp", "a")}).Ok());
     EXPECT_EQ(m_reader.Entries()[0].name, L"Blue/pics/a.bmp");

@@ -84,7 +84,7 @@ struct ZipReader::Directory {
     uint32_t entries = 0;
 };
 
-ZipReader::ZipReader() : m_in(kPiece), m_out(kPiece) {}
+ZipReader::ZipReader() = default;
 ZipReader::~ZipReader() = default;
 
 ZipResult ZipReader::Open(ArchiveSource& source, const ZipLimits& limits) {
@@ -251,6 +251,11 @@ ZipResult ZipReader::Extract(const ZipEntry& entry, ArchiveSink& sink) {
         return Problem(ZipProblem::Damaged, entry.name);
     if (entry.folder)
         return Problem(ZipProblem::None);
+    // The pieces are made on the first unpacking: most archives refused never need them.
+    if (m_in.empty()) {
+        m_in.resize(kPiece);
+        m_out.resize(kPiece);
+    }
     uint32_t crc = Crc(0, nullptr, 0);
     const ZipResult result =
         entry.method == kStored ? CopyStored(entry, sink, crc) : Inflate(entry, sink, crc);

@@ -197,7 +197,7 @@ ZipResult ZipReader::ReadDirectory(const ZipLimits& limits, const Directory& dir
         e.folder = clean.folder;
         if (e.method == kStored && e.packedSize != e.size)
             return Problem(ZipProblem::Damaged, shown);
-        if (!e.folder &&
+        if (!e.folder && e.size > limits.ratioCheckedAbove &&
             static_cast<uint64_t>(e.size) > static_cast<uint64_t>(limits.maxRatio) * e.packedSize)
             return Problem(ZipProblem::RatioTooHigh, shown);
         total += e.size;

@@ -22,6 +22,10 @@ struct ZipLimits {
     size_t maxEntries = 5000;
     uint64_t maxTotalSize = 64ull << 20; // unpacked, all entries together
     uint32_t maxRatio = 200;             // unpacked size over packed size, per entry
+    // Entries that unpack to no more than this are not held to maxRatio: a theme's flat-colour
+    // bitmaps deflate far beyond 200 to 1 (a 480x640 one of a single colour by about 1,000 to
+    // 1), and the total size still bounds what such entries can write.
+    uint32_t ratioCheckedAbove = 4u << 20;
     size_t maxNameChars = 259;
 };
 

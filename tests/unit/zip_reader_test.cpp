@@ -264,6 +264,22 @@ TEST_F(ZipReaderTest, EntryUnpackingToMoreThan200TimesItsPackedSizeIsRefused) {
     EXPECT_EQ(result.entry, L"bomb.bmp");
 }
 
+TEST_F(ZipReaderTest, FlatColourPictureOfAVgaScreenIsTakenThoughItPacksTightly) {
+    // 480x640 pixels of one colour at 32 bits: about 1.2 MB that deflate by about 1,000 to 1.
+    ASSERT_TRUE(
+        Open({Entry("Blue/background.bmp", std::string(480 * 640 * 4, '\x5a'), true)}).Ok());
+    ASSERT_GT(m_reader.Entries()[0].size, 200u * m_reader.Entries()[0].packedSize);
+    std::string text;
+    EXPECT_TRUE(Extract(0, text).Ok());
+    EXPECT_EQ(text.size(), 480u * 640u * 4u);
+}
+
+TEST_F(ZipReaderTest, EntryJustOverFourMegabytesIsHeldToTheRatio) {
+    EXPECT_EQ(Open({Entry("big.bmp", std::string((4 << 20) + 1, '\0'), true)}).problem,
+              ZipProblem::RatioTooHigh);
+    EXPECT_TRUE(Open({Entry("big.bmp", std::string(4 << 20, '\0'), true)}).Ok());
+}
+
 TEST_F(ZipReaderTest, TruncatedArchiveIsRefusedAsTruncated) {
     const std::string zip = BuildZip({Entry("a.skin", Repeated("skin ", 1000))});
     EXPECT_EQ(OpenBytes(zip.substr(0, zip.size() / 2)).problem, ZipProblem::Truncated);

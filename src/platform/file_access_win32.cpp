@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "platform/read_observer.h"
 #include "platform/write_fault.h"
 #include "store/paths.h"
 
@@ -47,6 +48,7 @@ std::wstring FileSystemMask(const std::wstring& pattern) {
 
 bool ReadWholeFile(const std::wstring& path, Bytes& out) {
     out.clear();
+    NoteFileRead(path);
     HANDLE h = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (h == INVALID_HANDLE_VALUE)

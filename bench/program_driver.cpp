@@ -192,12 +192,15 @@ bool WaitIdle(HWND window) {
 }
 
 bool WaitListed(HWND main, LRESULT rows) {
-    return Until([&] {
-        HWND list = GetDlgItem(main, IDC_THEMES_LIST);
+    HWND list = nullptr;
+    const bool filled = Until([&] {
+        list = GetDlgItem(main, IDC_THEMES_LIST);
         DWORD_PTR count = 0;
         return list && SendMessageTimeoutW(list, LB_GETCOUNT, 0, 0, SMTO_NORMAL, kWaitMs, &count) &&
-               static_cast<LRESULT>(count) >= rows && !GetUpdateRect(list, nullptr, FALSE);
+               static_cast<LRESULT>(count) >= rows;
     });
+    // Asked without a message: the program may go on to other work once the list is painted.
+    return filled && Until([&] { return !GetUpdateRect(list, nullptr, FALSE); });
 }
 
 bool WaitChild(HWND window, int id) {

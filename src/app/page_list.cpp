@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "app/exe_folder.h"
 #include "pages/behaviour/button_assignments_page.h"
 #include "pages/behaviour/button_order_page.h"
 #include "pages/behaviour/clock_settings_page.h"
@@ -22,14 +23,18 @@ template <class Page> SettingsPage* Make() {
 }
 
 std::vector<SettingsPage*> CreateMainPages() {
+    return CreateMainPages(ExeFolder());
+}
+
+std::vector<SettingsPage*> CreateMainPages(const std::wstring& programFolder) {
     std::vector<SettingsPage*> pages;
     // "My Theme"
-    auto* catalogue = new (std::nothrow) ThemeCataloguePage();
+    auto* catalogue = new (std::nothrow) ThemeCataloguePage(programFolder);
     pages.push_back(catalogue);
     // "Program Directories": saving new theme folders lists the themes in them.
     auto* directories = new (std::nothrow) ProgramDirectoriesPage();
     if (directories && catalogue)
-        directories->SetThemesReload([catalogue] { catalogue->Reload(); });
+        directories->SetThemesReload([catalogue] { catalogue->ThemeFoldersSaved(); });
     pages.push_back(directories);
     // "General Settings"
     pages.push_back(Make<GeneralSettingsPage>());

@@ -13,6 +13,11 @@ using Bytes = std::vector<unsigned char>;
 // Reads the whole file; false when it cannot be opened or read.
 bool ReadWholeFile(const std::wstring& path, Bytes& out);
 
+// For tests: the observer hears the path of every file ReadWholeFile is asked to read, before it
+// is opened; null ends it.
+using FileReadObserver = void (*)(const std::wstring& path);
+void ObserveFileReads(FileReadObserver observer);
+
 // The steps of a replacing write, in order.
 enum class WriteStep { None, CreateTemporary, Write, Flush, Close, Replace };
 

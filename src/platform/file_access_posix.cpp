@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/read_observer.h"
 #include "platform/write_fault.h"
 #include "store/paths.h"
 #include "store/text_codec.h"
@@ -125,6 +126,7 @@ uint32_t FileAttributes(const std::wstring& path) {
 
 bool ReadWholeFile(const std::wstring& path, Bytes& out) {
     out.clear();
+    NoteFileRead(path);
     FILE* f = std::fopen(HostPath(path).c_str(), "rb");
     if (!f)
         return false;

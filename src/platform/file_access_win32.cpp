@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "platform/read_observer.h"
 #include "platform/write_fault.h"
 #include "store/paths.h"
 
@@ -14,10 +15,11 @@ struct FolderEntry {
 };
 
 // Every entry of the folder but "." and "..", read completely before anyone changes the folder.
-std::vector<FolderEntry> Entries(const std::wstring& folder) {
+// A narrower `mask` lets the file system skip what the caller would drop anyway.
+std::vector<FolderEntry> Entries(const std::wstring& folder, const std::wstring& mask = L"*.*") {
     std::vector<FolderEntry> entries;
     WIN32_FIND_DATAW found;
-    HANDLE find = FindFirstFileW((FolderWithSlash(folder) + L"*.*").c_str(), &found);
+    HANDLE find = FindFirstFileW((FolderWithSlash(folder) + mask).c_str(), &found);
     if (find == INVALID_HANDLE_VALUE)
         return entries;
     do {
@@ -33,10 +35,20 @@ bool IsFolder(DWORD attributes) {
     return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+// An extension pattern ("*.skin") is handed to the file system as it is: it names at least every
+// file that matches it here (file systems also match the short 8.3 names, whose extensions are
+// too short to end in a longer one). Any other pattern lists the whole folder.
+std::wstring FileSystemMask(const std::wstring& pattern) {
+    const bool extension = pattern.size() > 2 && pattern.compare(0, 2, L"*.") == 0 &&
+                           pattern.find_first_of(L"*?", 1) == std::wstring::npos;
+    return extension ? pattern : L"*.*";
+}
+
 } // namespace
 
 bool ReadWholeFile(const std::wstring& path, Bytes& out) {
     out.clear();
+    NoteFileRead(path);
     HANDLE h = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (h == INVALID_HANDLE_VALUE)
@@ -194,11 +206,11 @@ std::vector<std::wstring> ListSubfolders(const std::wstring& folder) {
     return names;
 }
 
-// The whole folder is listed and matched here rather than by the file system, so that every
-// platform matches the same names.
+// The names are matched here rather than by the file system, so that every platform matches the
+// same names; the file system only narrows the listing first.
 std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstring& pattern) {
     std::vector<std::wstring> names;
-    for (const FolderEntry& e : Entries(folder)) {
+    for (const FolderEntry& e : Entries(folder, FileSystemMask(pattern))) {
         if (!IsFolder(e.attributes) && MatchesPattern(e.name, pattern))
             names.push_back(e.name);
     }

@@ -31,4 +31,8 @@ struct DecompressImageInfo {
 // not premultiplied; at 24 bits transparent parts are composed onto white.
 HRESULT DecompressImageIndirect(DecompressImageInfo* info);
 
+// Decodes a tiny picture held in memory once, so that the imaging component is loaded before the
+// first page that shows pictures needs it; later calls do nothing. For idle moments.
+void PrepareImageDecoder();
+
 } // namespace cv2

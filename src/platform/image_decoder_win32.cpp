@@ -171,7 +171,27 @@ HBITMAP MakeBitmap(const std::vector<BYTE>& pixels, UINT width, UINT height, int
     return bitmap;
 }
 
+// A 1 x 1 picture of 24-bit pixels, as a .bmp file holds it.
+const BYTE kOnePixel[] = {'B', 'M', 58, 0, 0, 0, 0, 0, 0,  0, 54, 0, 0, 0, 40, 0, 0, 0, 1, 0,
+                          0,   0,   1,  0, 0, 0, 1, 0, 24, 0, 0,  0, 0, 0, 4,  0, 0, 0, 0, 0,
+                          0,   0,   0,  0, 0, 0, 0, 0, 0,  0, 0,  0, 0, 0, 0,  0, 0, 0};
+
 } // namespace
+
+// The program holds COM on its thread for its whole life, so what this loads stays loaded.
+void PrepareImageDecoder() {
+    static bool prepared = false;
+    if (prepared)
+        return;
+    prepared = true;
+    const std::vector<BYTE> data(kOnePixel, kOnePixel + sizeof kOnePixel);
+    DecompressImageInfo info = {};
+    info.dwSize = sizeof info;
+    ComScope com;
+    UINT width = 0, height = 0;
+    std::vector<BYTE> pixels;
+    DecodeToBgra(data, &info, width, height, pixels);
+}
 
 HRESULT DecompressImageIndirect(DecompressImageInfo* info) {
     if (!info || info->dwSize < sizeof(DecompressImageInfo) || !info->phBM || !info->pfnGetData)

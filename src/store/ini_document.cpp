@@ -85,22 +85,24 @@ IniDocument::IniDocument(const wchar_t* path) {
         Load(path);
 }
 
-bool IniDocument::Load(const std::wstring& path) {
+bool IniDocument::Load(const std::wstring& path, const wchar_t* onlySection) {
     m_path = CutToBuffer(path, kMaxPath);
     Clear();
     Bytes bytes;
     if (!ReadWholeFile(m_path, bytes))
         return false;
-    Parse(bytes.data(), bytes.size());
+    Parse(bytes.data(), bytes.size(), onlySection);
     return true;
 }
 
-void IniDocument::Parse(const unsigned char* bytes, size_t size) {
+void IniDocument::Parse(const unsigned char* bytes, size_t size, const wchar_t* onlySection) {
     Clear();
     const std::wstring text = DecodeAnsi(bytes, size);
     ParseState state = ParseState::Idle;
     size_t start = 0;   // where the current name, key or value starts
     TextRange key = {}; // the key of the line being read, once '=' was seen
+    // Whether the pairs read now are kept: all of them, or those of the one section asked for.
+    bool keeping = !onlySection || !*onlySection;
     for (size_t i = 0; i < text.size(); ++i) {
         const wchar_t c = text[i];
         switch (state) {
@@ -117,8 +119,18 @@ void IniDocument::Parse(const unsigned char* bytes, size_t size) {
             break;
         case ParseState::SectionName:
             if (c == L']') {
-                m_sections.push_back(Section{text.substr(start, i - start), {}});
+                std::wstring name = text.substr(start, i - start);
                 state = ParseState::Idle;
+                if (onlySection) {
+                    // The first section of that name is the one look-ups find; the rest of the
+                    // file cannot change what they answer.
+                    if (!m_sections.empty())
+                        return;
+                    keeping = EqualsNoCase(name.c_str(), onlySection);
+                    if (!keeping)
+                        break;
+                }
+                m_sections.push_back(Section{std::move(name), {}});
             } else if (IsLineBreak(c)) {
                 state = ParseState::Idle;
             }
@@ -138,14 +150,15 @@ void IniDocument::Parse(const unsigned char* bytes, size_t size) {
             break;
         case ParseState::Value:
             if (IsLineBreak(c)) {
-                AddParsed(Clean(key), Clean(TextRange{text.data() + start, i - start}));
+                if (keeping)
+                    AddParsed(Clean(key), Clean(TextRange{text.data() + start, i - start}));
                 state = ParseState::Idle;
             }
             break;
         }
     }
     // A file that ends inside a value keeps the value up to its last character.
-    if (state == ParseState::Value)
+    if (state == ParseState::Value && keeping)
         AddParsed(Clean(key), Clean(TextRange{text.data() + start, text.size() - start}));
 }
 

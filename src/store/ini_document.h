@@ -33,9 +33,12 @@ class IniDocument {
     explicit IniDocument(const wchar_t* path);
 
     // Reads and parses the file; false only when it cannot be opened (the document is then empty).
-    bool Load(const std::wstring& path);
-    // Parses 8-bit file text held in memory, replacing the current content.
-    void Parse(const unsigned char* bytes, size_t size);
+    // With `onlySection`, see Parse.
+    bool Load(const std::wstring& path, const wchar_t* onlySection = nullptr);
+    // Parses 8-bit file text held in memory, replacing the current content. With `onlySection`,
+    // only the first section of that name is kept and the parse ends where it ends: the look-ups
+    // of that section answer as after a whole parse, at a fraction of the cost of a long file.
+    void Parse(const unsigned char* bytes, size_t size, const wchar_t* onlySection = nullptr);
     // Writes the whole document to `path` (or to the last loaded/saved path when null).
     // False when the file cannot be written; the previous file then stays as it was, and
     // `failure` (when given) says where and why the write failed.

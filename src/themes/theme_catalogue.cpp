@@ -15,7 +15,7 @@ ThemeEntry ReadThemeEntry(const std::wstring& skinPath) {
     ThemeEntry entry;
     entry.path = CutToBuffer(skinPath, kMaxPath);
     IniDocument theme;
-    theme.Load(entry.path);
+    theme.Load(entry.path, kSkinInfo);
     entry.isCurrentFormat = theme.HasSection(kSkinInfo);
     if (!entry.isCurrentFormat)
         return entry;
@@ -43,15 +43,25 @@ void ScanSubfolders(const std::wstring& folder, std::vector<ThemeEntry>& found) 
 
 } // namespace
 
-std::vector<ThemeEntry> ScanThemes(const std::wstring& exeFolder, const IniDocument& config) {
-    std::vector<ThemeEntry> found;
-    ScanSubfolders(FolderWithSlash(exeFolder) + L"Themes\\", found);
+std::vector<std::wstring> ThemeFolders(const std::wstring& exeFolder, const IniDocument& config) {
+    std::vector<std::wstring> folders = {FolderWithSlash(exeFolder) + L"Themes\\"};
     for (const IniDocument::EntryRef& e : config.GetSectionEntries(config::kThemeDirectories)) {
-        const std::wstring folder = CutToBuffer(e.second, kMaxPath);
+        std::wstring folder = CutToBuffer(e.second, kMaxPath);
         if (!folder.empty())
-            ScanSubfolders(folder, found);
+            folders.push_back(std::move(folder));
     }
+    return folders;
+}
+
+std::vector<ThemeEntry> ScanThemes(const std::vector<std::wstring>& folders) {
+    std::vector<ThemeEntry> found;
+    for (const std::wstring& folder : folders)
+        ScanSubfolders(folder, found);
     return found;
+}
+
+std::vector<ThemeEntry> ScanThemes(const std::wstring& exeFolder, const IniDocument& config) {
+    return ScanThemes(ThemeFolders(exeFolder, config));
 }
 
 std::wstring FileTitle(const std::wstring& path) {

@@ -32,14 +32,20 @@ struct ThemeEntry {
 // The list's entry for the theme kept in config.ini itself; never translated.
 constexpr wchar_t kCustomThemeText[] = L"Custom Theme";
 
-// Reads the "Skin Info" of one theme file.
+// Reads the "Skin Info" of one theme file; the rest of the file is not parsed.
 ThemeEntry ReadThemeEntry(const std::wstring& skinPath);
 
 // Every "*.skin" file directly inside `folder`, in the order the file system gives them.
 void ScanThemeFolder(const std::wstring& folder, std::vector<ThemeEntry>& found);
 
-// Every theme of the device: the sub-folders of exeFolder + "Themes\", then those of each folder
-// listed in "Theme Directories" of `config`, in the listed order (the keys do not matter).
+// The folders whose sub-folders hold the device's themes: exeFolder + "Themes\", then each
+// folder listed in "Theme Directories" of `config`, in the listed order (the keys do not matter).
+// The themes listed change with these folders only (or with the files in them).
+std::vector<std::wstring> ThemeFolders(const std::wstring& exeFolder, const IniDocument& config);
+
+// Every theme in the sub-folders of `folders`, in their order.
+std::vector<ThemeEntry> ScanThemes(const std::vector<std::wstring>& folders);
+// Every theme of the device: ScanThemes of its ThemeFolders.
 std::vector<ThemeEntry> ScanThemes(const std::wstring& exeFolder, const IniDocument& config);
 
 // The file name of `path` without its folder and without its extension.

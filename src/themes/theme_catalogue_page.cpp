@@ -60,6 +60,10 @@ const ControlPlace kButtonPlaces[] = {
 // The details box shows at most this much of the details.
 constexpr int kDetailsBoxChars = 1024;
 
+// The notice the page posts itself, as from its list, to list the themes anew once the message
+// being handled is done; list boxes send no notification of this number.
+constexpr WORD kListAgain = 0x7C32;
+
 LRESULT Send(HWND window, UINT msg, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendMessageW(window, msg, wParam, lParam);
 }
@@ -152,6 +156,18 @@ void ThemeCataloguePage::OnHostShown() {
     FinishPendingFill();
 }
 
+void ThemeCataloguePage::ThemeFoldersSaved() {
+    // A fill still to come reads the folders as they are then.
+    if (!Doc() || !m_controls[List] || m_fillPending || !FoldersChanged())
+        return;
+    PostMessageW(m_host, WM_COMMAND, MAKEWPARAM(IDC_THEMES_LIST, kListAgain),
+                 reinterpret_cast<LPARAM>(m_controls[List]));
+}
+
+bool ThemeCataloguePage::FoldersChanged() const {
+    return ThemeFolders(m_programFolder, *Doc()) != m_listedFolders;
+}
+
 void ThemeCataloguePage::FinishPendingFill() {
     if (!m_fillPending)
         return;
@@ -167,7 +183,8 @@ void ThemeCataloguePage::Fill() {
     Send(m_controls[List], LB_RESETCONTENT);
     m_entries.clear();
     const std::wstring prefix = Localized(IDS_OLDER_THEME_PREFIX);
-    for (ThemeEntry& found : ScanThemes(m_programFolder, *Doc())) {
+    m_listedFolders = ThemeFolders(m_programFolder, *Doc());
+    for (ThemeEntry& found : ScanThemes(m_listedFolders)) {
         m_entries.push_back(std::make_unique<ThemeEntry>(std::move(found)));
         const ThemeEntry* entry = m_entries.back().get();
         const std::wstring text = ThemeDisplayText(*entry, prefix);
@@ -255,6 +272,8 @@ bool ThemeCataloguePage::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (from == m_controls[List]) {
         if (code == LBN_SELCHANGE)
             OnSelectionChange();
+        else if (code == kListAgain && FoldersChanged())
+            Reload(); // once, however many saves asked for it
         return true;
     }
     if (from == m_controls[DetailsText])

@@ -36,11 +36,17 @@ class ThemeCataloguePage : public SettingsPage {
     // window shows at once however many themes there are.
     void Reload();
     void OnHostShown() override;
+    // The theme folders in config.ini may have changed (Program Directories saved them). When
+    // they differ from those last listed, the themes are listed anew once the message that saved
+    // them has been handled: Apply does not wait for the themes to be read.
+    void ThemeFoldersSaved();
 
     enum Control { List, Customize, Delete, Install, DetailsText, DetailsButton, Count };
     HWND Window(Control c) const { return m_controls[c]; }
 
   private:
+    // Whether config.ini's theme folders differ from those the list was filled from.
+    bool FoldersChanged() const;
     // Fills the list now if a deferred Reload has not yet.
     void FinishPendingFill();
     void Fill();
@@ -60,6 +66,8 @@ class ThemeCataloguePage : public SettingsPage {
     HWND m_host = nullptr;
     HWND m_controls[Count] = {};
     bool m_fillPending = false;
+    // The folders the list was last filled from.
+    std::vector<std::wstring> m_listedFolders;
     // Owned here; the list rows point at them.
     std::vector<std::unique_ptr<ThemeEntry>> m_entries;
 };

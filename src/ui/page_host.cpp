@@ -12,9 +12,9 @@ const COLORREF kHeaderLeft = 0xFFEFDE;
 const COLORREF kHeaderRight = 0xE7AD84;
 const int kPageBackground = 25; // the device's static-control background colour
 
-// The host window's property that leads its after-paint timer back to the host.
-const wchar_t kHostProperty[] = L"CV2PageHost";
-const UINT_PTR kAfterPaintTimer = 0xC2;
+// What the host posts its window after the first paint, once for each turn of the work that
+// waited for that paint (wParam: the turn).
+const UINT kAfterFirstPaint = WM_APP + 0xC2;
 
 void FillGradient(HDC dc, const RECT& r, COLORREF left, COLORREF right) {
     TRIVERTEX v[2] = {};
@@ -61,8 +61,6 @@ RECT PageArea(int clientWidth, int clientHeight) {
 }
 
 PageHost::~PageHost() {
-    // A window that outlives its host must not lead its timer back here.
-    LetGoOfWindow();
     for (SettingsPage* page : m_pages)
         delete page;
     if (m_pageMenu)
@@ -81,8 +79,8 @@ void PageHost::BuildPages(HWND window, IniDocument* doc, Making making) {
     m_hwnd = window;
     m_doc = doc;
     m_created = 0;
+    m_told = 0;
     m_painted = false;
-    SetPropW(window, kHostProperty, this);
     m_pageMenu = CreatePopupMenu();
     RECT client;
     GetClientRect(window, &client);
@@ -195,11 +193,12 @@ bool PageHost::HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam, LRESULT& re
     case WM_PAINT:
         Paint();
         if (!m_painted) {
-            // A timer fires only when no message and no paint is waiting: after every control
-            // has painted too.
             m_painted = true;
-            SetTimer(m_hwnd, kAfterPaintTimer, 0, AfterFirstPaint);
+            PostMessageW(m_hwnd, kAfterFirstPaint, 0, 0);
         }
+        return true;
+    case kAfterFirstPaint:
+        AfterFirstPaint(static_cast<int>(wParam));
         return true;
     case WM_LBUTTONDOWN:
         TrackPageMenu(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
@@ -256,27 +255,30 @@ void PageHost::LoadAll(IniDocument* doc) {
         page->Load(doc);
 }
 
-void PageHost::LetGoOfWindow() {
-    if (m_hwnd && IsWindow(m_hwnd) && GetPropW(m_hwnd, kHostProperty) == this) {
-        KillTimer(m_hwnd, kAfterPaintTimer);
-        RemovePropW(m_hwnd, kHostProperty);
-    }
-}
-
 void PageHost::DestroyAll() {
-    LetGoOfWindow();
     for (SettingsPage* page : CreatedPages())
         page->OnDestroy();
 }
 
-void CALLBACK PageHost::AfterFirstPaint(HWND window, UINT, UINT_PTR timer, DWORD) {
-    KillTimer(window, timer);
-    auto* host = static_cast<PageHost*>(GetPropW(window, kHostProperty));
-    if (!host)
+void PageHost::TellShown() {
+    for (; m_told < m_created; ++m_told) {
+        if (SettingsPage* page = m_pages[static_cast<size_t>(m_told)])
+            page->OnHostShown();
+    }
+}
+
+void PageHost::AfterFirstPaint(int turn) {
+    // What waits to be painted is painted first, so that each turn's work comes after the user
+    // sees the last: the window's controls after the first paint, then what the first turn did.
+    RedrawWindow(m_hwnd, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    if (turn == 0) {
+        TellShown();
+        if (m_created < PageCount())
+            PostMessageW(m_hwnd, kAfterFirstPaint, 1, 0);
         return;
-    host->CreatePagesUpTo(host->PageCount() - 1);
-    for (SettingsPage* page : host->CreatedPages())
-        page->OnHostShown();
+    }
+    CreatePagesUpTo(PageCount() - 1);
+    TellShown();
 }
 
 } // namespace cv2

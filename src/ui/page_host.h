@@ -69,15 +69,18 @@ class PageHost {
 
   private:
     std::vector<SettingsPage*> CreatedPages() const;
-    // Stops the after-paint timer and takes the host off its window.
-    void LetGoOfWindow();
-    // After the first paint: the remaining pages are made, then every page hears OnHostShown.
-    static void CALLBACK AfterFirstPaint(HWND window, UINT, UINT_PTR timer, DWORD);
+    // After the first paint, in two turns of the message loop: the pages made so far hear
+    // OnHostShown (My Theme lists its themes) and what they did is painted; then the remaining
+    // pages are made and hear it.
+    void AfterFirstPaint(int turn);
+    // Tells the made pages that have not heard it yet that the window has been shown.
+    void TellShown();
 
     HWND m_hwnd = nullptr;
     SettingsPage* m_current = nullptr;
     std::vector<SettingsPage*> m_pages;
     int m_created = 0; // pages [0, m_created) have their controls
+    int m_told = 0;    // pages [0, m_told) have heard OnHostShown
     bool m_painted = false;
     IniDocument* m_doc = nullptr;
     RECT m_area = {};

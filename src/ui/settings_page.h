@@ -41,8 +41,9 @@ class SettingsPage {
     virtual void OnActivate();
     virtual void OnDeactivate();
     virtual void OnSize(const RECT& client);
-    // Once, after the host window's first paint, when every page has its controls: for work
-    // that would keep the window from showing.
+    // Once, after the host window's first paint: for work that would keep the window from
+    // showing. Pages made before that paint hear it first, and their work shows before the other
+    // pages are made; the others hear it once they are all made.
     virtual void OnHostShown();
 
     SettingsPage(const SettingsPage&) = delete;

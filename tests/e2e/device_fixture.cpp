@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/page_list.h"
+#include "ids_behaviour.h"
 #include "platform/file_access.h"
 
 namespace cv2test {
@@ -136,6 +137,10 @@ HWND DeviceFixture::StartEditor() {
         HWND list = FindWindowExW(m_main, nullptr, L"ListBox", nullptr);
         return list && SendMessageW(list, LB_GETCOUNT, 0, 0) > 0;
     })) << "the themes were not listed";
+    // The window as the user meets it: the other pages are made once the themes are listed,
+    // Plugins last.
+    EXPECT_TRUE(WaitFor([&] { return GetDlgItem(m_main, IDC_PLUGIN_LIST) != nullptr; }))
+        << "the main window's later pages were never made";
     return m_main;
 }
 

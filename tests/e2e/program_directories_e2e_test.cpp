@@ -110,6 +110,25 @@ TEST_F(ProgramDirectoriesE2E, ThemeDirectoriesListIsWrittenByApply) {
               Lines("[Theme Directories]\n1=\\Storage Card\\Themes\n2=C:\\More Themes\n\n"));
 }
 
+TEST_F(ProgramDirectoriesE2E, ApplyAfterAddingAThemeDirectoryListsItsThemes) {
+    CreateDirectoryW(File(L"More").c_str(), nullptr);
+    CreateDirectoryW(File(L"More\\Sky").c_str(), nullptr);
+    WriteText(L"More\\Sky\\sky.skin", "[Skin Info]\nName=Sky Theme\n");
+    OpenPage("");
+    HWND themes = FindWindowExW(m_main, nullptr, L"ListBox", nullptr); // My Theme's, made first
+    ASSERT_TRUE(themes);
+    const auto listed = [&] {
+        return SendMessageW(themes, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                            reinterpret_cast<LPARAM>(L"Sky Theme")) >= 0;
+    };
+    ASSERT_FALSE(listed());
+    HWND dialog = OpenBrowser(IDC_PROGRAM_THEMES_ADD);
+    ASSERT_TRUE(dialog) << "Add opened no file browser";
+    Pick(dialog, File(L"More"));
+    Apply();
+    EXPECT_TRUE(WaitFor(listed)) << "the new folder's theme was not listed";
+}
+
 TEST_F(ProgramDirectoriesE2E, BrowserRemembersThePickedFolderAndStartsThereNextTime) {
     RegDeleteKeyValueW(HKEY_CURRENT_USER, cv2::kBrowseRegistryKey, kRememberedName);
     OpenPage("");

@@ -285,7 +285,7 @@ TEST_F(ThemeCataloguePageTest, ApplyOfAnOlderThemeWhoseFileVanishedConvertsAnEmp
 }
 
 // The main window's page list ties Program Directories to the catalogue: saving new theme
-// folders lists the themes in them.
+// folders lists the themes in them, once the saving message has been handled.
 TEST_F(ThemeCataloguePageTest, SavingProgramDirectoriesReloadsTheMainWindowsCatalogue) {
     std::vector<SettingsPage*> pages = CreateMainPages();
     ASSERT_GE(pages.size(), 2u);
@@ -304,9 +304,9 @@ TEST_F(ThemeCataloguePageTest, SavingProgramDirectoriesReloadsTheMainWindowsCata
         SendMessageW(directories->Window(ProgramDirectoriesPage::List), LB_ADDSTRING, 0,
                      reinterpret_cast<LPARAM>(extra.c_str()));
         directories->Save(nullptr);
+        Pump();
         const Texts listed = ListBoxTexts(catalogue->Window(ThemeCataloguePage::List));
         EXPECT_NE(std::find(listed.begin(), listed.end(), L"Extra"), listed.end());
-        Pump();
     }
     for (SettingsPage* page : pages)
         delete page;
@@ -316,9 +316,12 @@ TEST_F(ThemeCataloguePageTest, SavingProgramDirectoriesReloadsTheMainWindowsCata
 
 class CatalogueInMainWindowTest : public AppFixture {
   protected:
-    ThemeCataloguePage& Make() {
+    void BlueTheme() const {
         m_dir.MakeFolder(L"Themes\\Blue");
         m_dir.Write(L"Themes\\Blue\\blue.skin", "[Skin Info]\nName=Deep Blue\n");
+    }
+    ThemeCataloguePage& Make() {
+        BlueTheme();
         auto* page = new ThemeCataloguePage(m_dir.Path());
         MakeApp({page}, "[Settings]\r\nTheme File=" + Blue() + "\r\n");
         return *page;
@@ -342,6 +345,39 @@ TEST_F(CatalogueInMainWindowTest,
     ASSERT_GE(row, 0);
     EXPECT_EQ(listed[static_cast<size_t>(row)], L"Deep Blue");
     EXPECT_TRUE(IsWindowEnabled(page.Window(ThemeCataloguePage::Delete)));
+}
+
+namespace {
+
+// A second page that notes, when it is made, how far the theme list of the first page got.
+class ListWatchingPage : public SettingsPage {
+  public:
+    explicit ListWatchingPage(const ThemeCataloguePage& catalogue)
+        : SettingsPage(L"Second"), m_catalogue(catalogue) {}
+    void Create(HWND) override {
+        HWND list = m_catalogue.Window(ThemeCataloguePage::List);
+        rowsWhenMade = SendMessageW(list, LB_GETCOUNT, 0, 0);
+        paintedWhenMade = IsWindowVisible(list) && !GetUpdateRect(list, nullptr, FALSE);
+    }
+    void Show(bool) override {}
+
+    LRESULT rowsWhenMade = -1;
+    bool paintedWhenMade = false;
+
+  private:
+    const ThemeCataloguePage& m_catalogue;
+};
+
+} // namespace
+
+TEST_F(CatalogueInMainWindowTest, TheThemesAreListedAndPaintedBeforeTheSecondPageIsMade) {
+    BlueTheme();
+    auto* catalogue = new ThemeCataloguePage(m_dir.Path());
+    auto* second = new ListWatchingPage(*catalogue);
+    MakeApp({catalogue, second});
+    ASSERT_TRUE(PumpUntil([&] { return m_app->Host().CreatedCount() == 2; }));
+    EXPECT_EQ(second->rowsWhenMade, 2); // the theme and the custom theme
+    EXPECT_TRUE(second->paintedWhenMade);
 }
 
 TEST_F(CatalogueInMainWindowTest, ApplyBeforeTheListIsFilledKeepsTheThemeConfigIniNames) {

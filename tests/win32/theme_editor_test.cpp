@@ -73,7 +73,8 @@ std::vector<SettingsPage*> ThreeNotingPages() {
 } // namespace
 
 // Customize shows the editor at the cost of its first page: the others are made after it has
-// painted, in order, and then every page hears that the editor is up.
+// painted, in order. The first page hears that the editor is up before they are made, they once
+// they are.
 TEST_F(ThemeEditorTest, OnlyTheFirstPageIsMadeBeforeTheEditorPaintsAndTheRestAfterInOrder) {
     g_events.clear();
     ThemeEditor editor(&doc, ThreeNotingPages());
@@ -87,7 +88,7 @@ TEST_F(ThemeEditorTest, OnlyTheFirstPageIsMadeBeforeTheEditorPaintsAndTheRestAft
     ASSERT_GE(g_events.size(), 2u);
     EXPECT_EQ(g_events[0], "A:Create");
     EXPECT_EQ(g_events[1], "A:Paint") << "the first page is painted before any other is made";
-    EXPECT_EQ(made, (std::vector<std::string>{"A:Create", "B:Create", "C:Create", "A:HostShown",
+    EXPECT_EQ(made, (std::vector<std::string>{"A:Create", "A:HostShown", "B:Create", "C:Create",
                                               "B:HostShown", "C:HostShown"}));
 }
 

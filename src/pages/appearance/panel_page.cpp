@@ -1,6 +1,7 @@
 #include "pages/appearance/panel_page.h"
 
 #include "pages/platform_colors.h"
+#include "platform/image_decoder.h"
 
 namespace cv2 {
 namespace {
@@ -52,6 +53,10 @@ void PanelPage::OnActivate() {
         if (PathRow(row) != kNoPathRow)
             panel->SetPath(row, RowPath(row));
     }
+}
+
+void PanelPage::OnHostShown() {
+    PrepareImageDecoder();
 }
 
 void PanelPage::OnDeactivate() {

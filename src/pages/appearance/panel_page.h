@@ -50,6 +50,9 @@ class PanelPage : public SettingsPage {
     void Load(IniDocument* doc) override;
     void OnActivate() override;
     void OnDeactivate() override;
+    // Readies the picture decoder while the user reads the first page, so that the first page
+    // that shows pictures does not wait for it to load.
+    void OnHostShown() override;
 
     const SettingValues& Values() const { return m_values; }
 

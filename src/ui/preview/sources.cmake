@@ -1,0 +1,2 @@
+# The preview of the bar: the scene as data (portable) and its painter (Win32).
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/scene.cpp)

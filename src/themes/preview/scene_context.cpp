@@ -85,7 +85,7 @@ SettingValues SceneContext::Theme(const SettingSection& section) const {
 }
 
 void SceneContext::Use(const wchar_t* section, const wchar_t* key) {
-    if (!scene.Used(section, key))
+    if (m_used.insert(Folded(section) + L'\n' + Folded(key)).second)
         scene.usedKeys.push_back({section, key});
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <unordered_set>
 
 #include "themes/preview/scene_builder.h"
 
@@ -60,6 +61,9 @@ class SceneContext {
 
   private:
     void UseRow(const SettingValues& values, size_t row);
+
+    // The keys already noted, folded, as "section\nkey": a scene notes each once.
+    std::unordered_set<std::wstring> m_used;
 };
 
 // `v` brought between `lo` and `hi`; `lo` wins when the two cross (a screen too small for a

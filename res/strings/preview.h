@@ -1,7 +1,7 @@
 // Texts of the preview of the bar: the editor's Preview page, the sample texts the preview
 // draws, and the messages of the command line that writes a preview image.
 CV_STRING(IDS_PREVIEW, 1300, L"Preview")
-CV_STRING(IDS_PREVIEW_NOTE, 1301, L"An approximation: the bar may draw some parts differently.")
+CV_STRING(IDS_PREVIEW_NOTE, 1301, L"Approximate: the bar may differ.")
 // Sample texts inside the picture.
 CV_STRING(IDS_PREVIEW_TITLE, 1302, L"Today")
 CV_STRING(IDS_PREVIEW_PROGRAMS, 1303, L"Programs")

@@ -55,8 +55,9 @@ PageHost::~PageHost() {
         DestroyMenu(m_pageMenu);
 }
 
-void PageHost::AddPage(SettingsPage* page) {
+void PageHost::AddPage(SettingsPage* page, bool separatorBefore) {
     m_pages.push_back(page);
+    m_separatorBefore.push_back(separatorBefore);
 }
 
 SettingsPage* PageHost::Page(int index) const {
@@ -74,7 +75,10 @@ void PageHost::BuildPages(HWND window, IniDocument* doc, Making making) {
     GetClientRect(window, &client);
     m_area = PageArea(client.right, client.bottom);
     for (int i = 0; i < PageCount(); ++i) {
-        if (SettingsPage* page = m_pages[static_cast<size_t>(i)])
+        SettingsPage* page = m_pages[static_cast<size_t>(i)];
+        if (page && m_separatorBefore[static_cast<size_t>(i)])
+            AppendMenuW(m_pageMenu, MF_SEPARATOR, 0, nullptr);
+        if (page)
             AppendMenuW(m_pageMenu, MF_STRING, static_cast<UINT_PTR>(i + 1), page->GetName());
     }
     if (making == Making::AllAtOnce)

@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "themes/preview/preview_theme.h"
 #include "themes/theme_catalogue.h"
+#include "ui/preview/preview_view.h"
 #include "ui/settings_page.h"
 
 namespace cv2 {
@@ -38,6 +40,8 @@ class ThemeCataloguePage : public SettingsPage {
 
     enum Control { List, Customize, Delete, DetailsText, DetailsButton, Count };
     HWND Window(Control c) const { return m_controls[c]; }
+    // The selected theme's top bar, across the screen.
+    PreviewView& Strip() { return m_strip; }
 
   private:
     // Fills the list now if a deferred Reload has not yet.
@@ -47,7 +51,9 @@ class ThemeCataloguePage : public SettingsPage {
     // The entry of the selected row; null for "Custom Theme" and when nothing is selected.
     const ThemeEntry* Selected(bool* customTheme = nullptr) const;
     void OnSelectionChange();
-    void ShowDetails(const ThemeEntry* entry);
+    void ShowDetails(const ThemeEntry* entry, const IniDocument* theme);
+    void ShowTopBar(const ThemeEntry* entry, bool customTheme, const IniDocument* theme);
+    Scene TopBarScene();
     void OpenEditor();
     void DeleteSelected();
     void ShowDetailsBox() const;
@@ -58,6 +64,10 @@ class ThemeCataloguePage : public SettingsPage {
     bool m_fillPending = false;
     // Owned here; the list rows point at them.
     std::vector<std::unique_ptr<ThemeEntry>> m_entries;
+    PreviewView m_strip;
+    // What the strip shows; null when nothing is selected.
+    const IniDocument* m_stripTheme = nullptr;
+    PreviewTheme m_stripFile;
 };
 
 } // namespace cv2

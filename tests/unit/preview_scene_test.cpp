@@ -302,6 +302,16 @@ TEST_F(PreviewScene, TinyAndHugeScreensAreBroughtIntoRange) {
     }
 }
 
+TEST_F(PreviewScene, NarrowScreensKeepTheAppButtonInsideTheWindow) {
+    for (int width = 1; width <= 64; ++width) {
+        Screen(width, 51, 24);
+        const Scene scene = Build();
+        const std::string where = "width " + std::to_string(width);
+        ExpectInsideScreen(scene, where);
+        ExpectInsideParents(scene, where);
+    }
+}
+
 TEST_F(PreviewScene, TopBarOnlyFillsTheWholeStrip) {
     FullTheme();
     Screen(240, 26, 96);

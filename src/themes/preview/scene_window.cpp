@@ -101,8 +101,9 @@ void AddAppButton(SceneContext& c, WindowBody& body, const SettingValues& colors
     SceneRect row;
     if (!TakeRow(body, height, row))
         return;
-    const int width =
-        ClampTo(c.TextWidth(e.text.font, e.text.text) + c.S(20), c.S(64), row.Width());
+    // At least a usual button's width, but never wider than the window's row.
+    const int width = ClampTo(c.TextWidth(e.text.font, e.text.text) + c.S(20),
+                              std::min(c.S(64), row.Width()), row.Width());
     e.rect = {row.left, row.top, row.left + width, row.bottom};
     e.parent = body.window;
     c.Add(e);

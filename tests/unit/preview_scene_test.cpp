@@ -312,6 +312,22 @@ TEST_F(PreviewScene, NarrowScreensKeepTheAppButtonInsideTheWindow) {
     }
 }
 
+TEST_F(PreviewScene, RoomForAPlaceholdersNameLiesBelowItsParts) {
+    request.startMenuOpen = true;
+    const Scene scene = Build();
+    for (size_t i = 0; i < scene.elements.size(); ++i) {
+        const SceneRect free = scene.FreeBelowParts(i);
+        EXPECT_TRUE(scene.elements[i].rect.Contains(free) || free.IsEmpty());
+        for (const SceneElement& e : scene.elements)
+            if (e.parent == static_cast<int>(i) && !e.popup)
+                EXPECT_FALSE(e.rect.Overlaps(free)) << static_cast<int>(e.kind);
+    }
+    const SceneElement* menu = scene.Find(SceneKind::StartMenu);
+    const SceneRect free = scene.FreeBelowParts(static_cast<size_t>(menu - scene.elements.data()));
+    EXPECT_EQ(free.top, scene.All(SceneKind::MenuEntry)[3]->rect.bottom);
+    EXPECT_EQ(free.bottom, menu->rect.bottom);
+}
+
 TEST_F(PreviewScene, TopBarOnlyFillsTheWholeStrip) {
     FullTheme();
     Screen(240, 26, 96);

@@ -37,4 +37,13 @@ const SceneElement* Scene::At(int x, int y) const {
     return nullptr;
 }
 
+SceneRect Scene::FreeBelowParts(size_t index) const {
+    SceneRect free = elements[index].rect;
+    for (const SceneElement& e : elements) {
+        if (e.parent == static_cast<int>(index) && !e.popup && e.rect.bottom > free.top)
+            free.top = e.rect.bottom < free.bottom ? e.rect.bottom : free.bottom;
+    }
+    return free;
+}
+
 } // namespace cv2

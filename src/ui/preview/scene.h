@@ -143,6 +143,10 @@ struct Scene {
     bool Used(const wchar_t* section, const wchar_t* key) const;
     // The topmost element at a point of the scene, or null.
     const SceneElement* At(int x, int y) const;
+    // The part of an element below the last of the elements that lie in it (pop-ups aside):
+    // where its own label can go without running into them. The whole element when nothing
+    // lies in it; empty when they reach its bottom.
+    SceneRect FreeBelowParts(size_t index) const;
 };
 
 } // namespace cv2

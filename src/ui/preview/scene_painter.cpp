@@ -16,6 +16,7 @@ namespace {
 constexpr ColorRef kPlaceholderFace = 0xE0E0E0;
 constexpr ColorRef kPlaceholderFrame = 0x909090;
 constexpr ColorRef kPlaceholderText = 0x505050;
+constexpr int kPlaceholderTextSize = 6; // points
 // Pictures and drawn sizes kept before they are all let go (a window resized many times, a
 // long walk through many themes).
 constexpr size_t kMaxRead = 128;
@@ -150,16 +151,22 @@ bool ScenePainter::PaintPicture(HDC dc, const SceneFill& fill, const RECT& r) {
     return image != nullptr;
 }
 
-void ScenePainter::PaintPlaceholder(HDC dc, const SceneElement& e, const RECT& r, int dpi) {
+// The box, and the element's name where nothing drawn over it will run into it: below the
+// parts that lie in it, and not at all when they leave no room for a line.
+void ScenePainter::PaintPlaceholder(HDC dc, const Scene& scene, size_t index) {
+    const SceneElement& e = scene.elements[index];
+    const RECT r = ToRect(e.rect);
     PaintSolid(dc, r, kPlaceholderFace);
     FrameIn(dc, r, kPlaceholderFrame);
     SceneText label;
     label.text = e.name;
     label.font.face = L"Tahoma";
-    label.font.size = 6;
+    label.font.size = kPlaceholderTextSize;
     label.font.color = kPlaceholderText;
     label.align = TextAlign::Center;
-    PaintText(dc, label, r, dpi);
+    const SceneRect free = scene.FreeBelowParts(index);
+    if (free.Height() >= MulDiv(kPlaceholderTextSize, scene.dpi, 72) + 2)
+        PaintText(dc, label, ToRect(free), scene.dpi);
 }
 
 void ScenePainter::PaintText(HDC dc, const SceneText& text, const RECT& r, int dpi) {
@@ -177,7 +184,9 @@ void ScenePainter::PaintText(HDC dc, const SceneText& text, const RECT& r, int d
     RestoreDC(dc, saved);
 }
 
-void ScenePainter::PaintElement(HDC dc, const SceneElement& e, int dpi) {
+void ScenePainter::PaintElement(HDC dc, const Scene& scene, size_t index) {
+    const SceneElement& e = scene.elements[index];
+    const int dpi = scene.dpi;
     const RECT r = ToRect(e.rect);
     const SceneFill& fill = e.fill;
     switch (fill.kind) {
@@ -190,10 +199,10 @@ void ScenePainter::PaintElement(HDC dc, const SceneElement& e, int dpi) {
     case FillKind::Picture:
         // A picture that the file no longer gives is shown as one that was never there.
         if (!PaintPicture(dc, fill, r))
-            PaintPlaceholder(dc, e, r, dpi);
+            PaintPlaceholder(dc, scene, index);
         break;
     case FillKind::Placeholder:
-        PaintPlaceholder(dc, e, r, dpi);
+        PaintPlaceholder(dc, scene, index);
         break;
     case FillKind::Raised:
         PaintRaised(dc, r, fill);
@@ -213,8 +222,8 @@ void ScenePainter::Paint(HDC dc, const Scene& scene, int x, int y) {
     SetViewportOrgEx(dc, x, y, &origin);
     const int saved = SaveDC(dc);
     IntersectClipRect(dc, 0, 0, scene.width, scene.height);
-    for (const SceneElement& e : scene.elements)
-        PaintElement(dc, e, scene.dpi);
+    for (size_t i = 0; i < scene.elements.size(); ++i)
+        PaintElement(dc, scene, i);
     RestoreDC(dc, saved);
     SetViewportOrgEx(dc, origin.x, origin.y, nullptr);
 }

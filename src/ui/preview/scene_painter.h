@@ -60,9 +60,9 @@ class ScenePainter {
     const LoadedImage* Drawn(const SceneFill& fill, int width, int height);
     FontRecord& Font(const FontKeys& keys, int dpi);
 
-    void PaintElement(HDC dc, const SceneElement& e, int dpi);
+    void PaintElement(HDC dc, const Scene& scene, size_t index);
     bool PaintPicture(HDC dc, const SceneFill& fill, const RECT& r);
-    void PaintPlaceholder(HDC dc, const SceneElement& e, const RECT& r, int dpi);
+    void PaintPlaceholder(HDC dc, const Scene& scene, size_t index);
     void PaintText(HDC dc, const SceneText& text, const RECT& r, int dpi);
 
     std::map<std::wstring, std::unique_ptr<PixelImage>> m_read; // null: cannot be read

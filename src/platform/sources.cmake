@@ -16,3 +16,5 @@ endforeach()
 list(APPEND CV2_CORE_POSIX ${platform_posix})
 # The fault tests inject into replacing writes, shared by both file-access forms.
 list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/write_fault.cpp)
+# Replacing writes and temporary folders, on both forms' primitives.
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/replacing_file.cpp)

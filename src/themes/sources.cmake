@@ -4,6 +4,8 @@ list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/theme_catalogue.cpp
   ${CMAKE_CURRENT_LIST_DIR}/theme_color_table.cpp
   ${CMAKE_CURRENT_LIST_DIR}/theme_files.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/theme_package.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/theme_package_export.cpp
   ${CMAKE_CURRENT_LIST_DIR}/theme_transfer.cpp)
 list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/editor_pages.cpp

@@ -318,9 +318,11 @@ TEST_F(PreviewScene, RoomForAPlaceholdersNameLiesBelowItsParts) {
     for (size_t i = 0; i < scene.elements.size(); ++i) {
         const SceneRect free = scene.FreeBelowParts(i);
         EXPECT_TRUE(scene.elements[i].rect.Contains(free) || free.IsEmpty());
-        for (const SceneElement& e : scene.elements)
-            if (e.parent == static_cast<int>(i) && !e.popup)
+        for (const SceneElement& e : scene.elements) {
+            if (e.parent == static_cast<int>(i) && !e.popup) {
                 EXPECT_FALSE(e.rect.Overlaps(free)) << static_cast<int>(e.kind);
+            }
+        }
     }
     const SceneElement* menu = scene.Find(SceneKind::StartMenu);
     const SceneRect free = scene.FreeBelowParts(static_cast<size_t>(menu - scene.elements.data()));

@@ -37,3 +37,7 @@
 // Import Theme page (ten times its title's and its second button's numbers).
 #define IDC_IMPORT_THEME 1360
 #define IDC_EXPORT_THEME 1370
+
+// The editor's Preview page (ten times its title's string number).
+#define IDC_PREVIEW_VIEW 13000
+#define IDC_PREVIEW_NOTE 13001

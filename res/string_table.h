@@ -11,3 +11,4 @@
 #include "strings/appearance.h"
 #include "strings/appearance_panel.h"
 #include "strings/appearance_controls.h"
+#include "strings/preview.h"

@@ -3,6 +3,8 @@
 
 #include "app/bar_notify.h"
 #include "app/exe_folder.h"
+#include "app/preview_arguments.h"
+#include "app/preview_command.h"
 #include "app/theme_switch.h"
 #include "store/language_strings.h"
 
@@ -18,5 +20,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR commandLine, int) {
         cv2::RunThemeSwitch(cv2::ExeFolder(), args, cv2::NotifyBarFromTaskbar);
         return 0;
     }
+    // The theme switch comes first: a command line naming both switches the theme.
+    if (cv2::IsPreviewCommand(args))
+        return cv2::RunPreviewCommand(cv2::ExeFolder(), args);
     return cv2::RunEditor(instance);
 }

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <vector>
 
+#include "platform/com_objects.h"
+
 namespace cv2 {
 namespace {
 
@@ -16,37 +18,6 @@ constexpr size_t kMaxFileBytes = 64 * 1024 * 1024;
 // background cannot exhaust memory.
 constexpr double kMaxPixels = 4096.0 * 4096.0;
 constexpr DWORD kOwnChunk = 16384;
-
-// Releases a COM interface when it goes out of scope.
-template <class T> class ComPtr {
-  public:
-    ComPtr() = default;
-    ComPtr(const ComPtr&) = delete;
-    ComPtr& operator=(const ComPtr&) = delete;
-    ~ComPtr() {
-        if (m_p)
-            m_p->Release();
-    }
-    T** operator&() { return &m_p; }
-    T* operator->() const { return m_p; }
-    T* get() const { return m_p; }
-
-  private:
-    T* m_p = nullptr;
-};
-
-// COM for the duration of one decode, unless the thread already has it.
-class ComScope {
-  public:
-    ComScope() : m_hr(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
-    ~ComScope() {
-        if (SUCCEEDED(m_hr))
-            CoUninitialize();
-    }
-
-  private:
-    HRESULT m_hr;
-};
 
 bool ReadAll(DecompressImageInfo* info, std::vector<BYTE>& data) {
     std::vector<BYTE> own;

@@ -10,6 +10,8 @@
 #include "store/screen.h"
 #include "themes/older_theme.h"
 #include "themes/older_theme_device.h"
+#include "themes/preview/preview_device.h"
+#include "themes/preview/scene_builder.h"
 #include "themes/theme_editor.h"
 #include "themes/theme_files.h"
 #include "themes/theme_package.h"
@@ -37,24 +39,38 @@ const ChildControl kDetailsButton = {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, I
 // Places on the three screen shapes: the list with the details beside it (landscape) or below
 // it (portrait); on a square screen a "Details" button stands for the box. "Install" ends the
 // row of buttons where there is room for a third (portrait), stands under the details
-// (landscape), or starts a second row (square).
+// (landscape), or starts a second row (square). The selected theme's top bar runs across the
+// screen above the details (portrait) or under the buttons.
 const ControlPlace kWidePlaces[] = {
-    {IDC_THEMES_LIST, From::Left, 0, From::Left, 162, 3, 141},
-    {IDC_THEMES_DETAILS, From::Left, 165, From::Left, 320, 3, 141},
-    {IDC_THEMES_INSTALL, From::Left, 165, From::Left, 240, 147, 20},
+    {IDC_THEMES_LIST, From::Left, 0, From::Left, 162, 3, 135},
+    {IDC_THEMES_DETAILS, From::Left, 165, From::Left, 320, 3, 135},
+    {IDC_THEMES_INSTALL, From::Left, 165, From::Left, 240, 141, 20},
 };
 const ControlPlace kNarrowPlaces[] = {
     {IDC_THEMES_LIST, From::Left, 0, From::Left, 240, 3, 141},
-    {IDC_THEMES_DETAILS, From::Left, 0, From::Left, 240, 169, 79},
+    {IDC_THEMES_DETAILS, From::Left, 0, From::Left, 240, 198, -2, FromY::Top, true},
     {IDC_THEMES_INSTALL, From::Left, 159, From::Left, 234, 147, 20},
 };
+// Square screens have the height of landscape ones and two rows of buttons: a shorter list.
 const ControlPlace kSquarePlaces[] = {
-    {IDC_THEMES_INSTALL, From::Left, 5, From::Left, 80, 170, 20},
+    {IDC_THEMES_LIST, From::Left, 0, From::Left, 240, 3, 112},
+    {IDC_THEMES_CUSTOMIZE, From::Left, 5, From::Left, 80, 118, 20},
+    {IDC_THEMES_DELETE, From::Left, 82, From::Left, 157, 118, 20},
+    {IDC_THEMES_DETAILS_BUTTON, From::Left, 159, From::Left, 234, 118, 20},
+    {IDC_THEMES_INSTALL, From::Left, 5, From::Left, 80, 141, 20},
 };
 const ControlPlace kButtonPlaces[] = {
     {IDC_THEMES_CUSTOMIZE, From::Left, 5, From::Left, 80, 147, 20},
     {IDC_THEMES_DELETE, From::Left, 82, From::Left, 157, 147, 20},
     {IDC_THEMES_DETAILS_BUTTON, From::Left, 159, From::Left, 234, 147, 20},
+    {IDC_THEMES_PREVIEW, From::Left, 0, From::Right, 0, 170, 26},
+};
+// The same on screens of landscape height, six units higher.
+const ControlPlace kShortButtonPlaces[] = {
+    {IDC_THEMES_CUSTOMIZE, From::Left, 5, From::Left, 80, 141, 20},
+    {IDC_THEMES_DELETE, From::Left, 82, From::Left, 157, 141, 20},
+    {IDC_THEMES_DETAILS_BUTTON, From::Left, 159, From::Left, 234, 141, 20},
+    {IDC_THEMES_PREVIEW, From::Left, 0, From::Right, 0, 165, 26},
 };
 
 // The details box shows at most this much of the details.
@@ -99,6 +115,8 @@ void ThemeCataloguePage::Create(HWND host) {
     SetControlFont(m_controls[Install], CaptionFont());
     EnableWindow(m_controls[Customize], FALSE);
     EnableWindow(m_controls[Delete], FALSE);
+    m_strip.Create(host, IDC_THEMES_PREVIEW);
+    m_strip.SetBuilder([this](bool) { return TopBarScene(); });
     OnSize(Area());
 }
 
@@ -108,6 +126,8 @@ void ThemeCataloguePage::Show(bool visible) {
     if (detailsButton)
         ShowWindow(m_controls[DetailsButton], visible ? SW_SHOW : SW_HIDE);
     ShowWindow(m_controls[DetailsText], visible && !detailsButton ? SW_SHOW : SW_HIDE);
+    if (m_strip.Window())
+        ShowWindow(m_strip.Window(), visible ? SW_SHOW : SW_HIDE);
 }
 
 // Landscape screens put the details beside the list, portrait screens below it; square screens
@@ -122,8 +142,6 @@ void ThemeCataloguePage::OnSize(const RECT&) {
         PlaceControls(m_host, Area(), kNarrowPlaces);
     else
         PlaceControls(m_host, Area(), kWidePlaces);
-    if (square)
-        PlaceControls(m_host, Area(), kSquarePlaces);
     if (square && !m_controls[DetailsButton]) {
         CreateChildControls(m_host, &kDetailsButton, 1, &m_controls[DetailsButton]);
         SetControlFont(m_controls[DetailsButton], CaptionFont());
@@ -132,7 +150,13 @@ void ThemeCataloguePage::OnSize(const RECT&) {
         ShowWindow(m_controls[DetailsText], SW_HIDE);
         EnableWindow(m_controls[DetailsButton], Selected() != nullptr);
     }
-    PlaceControls(m_host, Area(), kButtonPlaces);
+    if (portraitWidth && !square)
+        PlaceControls(m_host, Area(), kButtonPlaces);
+    else
+        PlaceControls(m_host, Area(), kShortButtonPlaces);
+    if (square)
+        PlaceControls(m_host, Area(), kSquarePlaces);
+    m_strip.Refresh();
 }
 
 void ThemeCataloguePage::Load(IniDocument* doc) {
@@ -245,22 +269,57 @@ void ThemeCataloguePage::OnSelectionChange() {
     EnableWindow(m_controls[Delete], entry != nullptr);
     if (m_controls[DetailsButton])
         EnableWindow(m_controls[DetailsButton], entry != nullptr);
-    ShowDetails(entry);
+    // The theme is read again here, on selection, so that the scan of hundreds of themes does
+    // not pay for it.
+    IniDocument theme;
+    if (entry)
+        theme.Load(entry->path);
+    ShowDetails(entry, entry ? &theme : nullptr);
+    ShowTopBar(entry, customTheme, entry ? &theme : nullptr);
 }
 
-// The details end with the files the theme names but lacks. The theme is read again here, on
-// selection, so that the scan of hundreds of themes does not pay for it.
-void ThemeCataloguePage::ShowDetails(const ThemeEntry* entry) {
+// The details end with the files the theme names but lacks.
+void ThemeCataloguePage::ShowDetails(const ThemeEntry* entry, const IniDocument* theme) {
     HWND edit = m_controls[DetailsText];
     std::wstring missing;
-    if (entry && entry->isCurrentFormat) {
-        IniDocument theme;
-        theme.Load(entry->path);
-        missing = MissingFilesText(MissingFiles(theme, FolderOf(entry->path), ThemePathKeys()),
+    if (entry && entry->isCurrentFormat && theme) {
+        missing = MissingFilesText(MissingFiles(*theme, FolderOf(entry->path), ThemePathKeys()),
                                    Localized(IDS_MISSING_FILES));
     }
     SetVerticalScrollBar(edit, entry && (!entry->notes.empty() || !missing.empty()));
     SetWindowTextW(edit, entry ? (ThemeDetailsText(*entry) + missing).c_str() : L"");
+}
+
+// The strip shows a theme file's top bar (a first-format theme converted for the purpose), or
+// the custom theme's from config.ini itself; nothing while nothing is selected.
+void ThemeCataloguePage::ShowTopBar(const ThemeEntry* entry, bool customTheme,
+                                    const IniDocument* theme) {
+    m_stripTheme = nullptr;
+    if (entry && theme) {
+        m_stripFile = PreviewThemeOf(*theme, DeviceOlderThemeColors());
+        m_stripTheme = &m_stripFile.doc;
+    } else if (customTheme && Doc()) {
+        m_stripFile = PreviewTheme();
+        m_stripFile.folder = FolderOf(Doc()->Path());
+        m_stripTheme = Doc();
+    }
+    m_strip.Refresh();
+}
+
+Scene ThemeCataloguePage::TopBarScene() {
+    if (!m_stripTheme || !m_strip.Window())
+        return Scene();
+    RECT strip;
+    GetClientRect(m_strip.Window(), &strip);
+    PreviewRequest request;
+    request.theme = m_stripTheme;
+    request.themeFolder = m_stripFile.folder;
+    request.config = Doc();
+    request.width = strip.right;
+    request.height = strip.bottom;
+    request.dpi = g_dpiY;
+    request.topBarOnly = true;
+    return BuildScene(request, ThisDevicePreview(m_strip.Painter()));
 }
 
 // Only this page's own controls are taken, by window handle: other pages share the host.
@@ -302,6 +361,8 @@ void ThemeCataloguePage::OpenEditor() {
         return;
     ThemeEditor editor(Doc());
     editor.Run(m_host);
+    // The custom theme's top bar shows what the editor left in the document.
+    m_strip.Refresh();
 }
 
 void ThemeCataloguePage::DeleteSelected() {
@@ -395,6 +456,8 @@ void ThemeCataloguePage::Save(IniDocument* target) {
 void ThemeCataloguePage::OnDestroy() {
     m_fillPending = false;
     DestroyWindows(m_controls, Count);
+    m_strip.Destroy();
+    m_stripTheme = nullptr;
     m_entries.clear();
 }
 

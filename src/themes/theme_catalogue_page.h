@@ -10,7 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "themes/preview/preview_theme.h"
 #include "themes/theme_catalogue.h"
+#include "ui/preview/preview_view.h"
 #include "ui/settings_page.h"
 
 namespace cv2 {
@@ -43,6 +45,8 @@ class ThemeCataloguePage : public SettingsPage {
 
     enum Control { List, Customize, Delete, Install, DetailsText, DetailsButton, Count };
     HWND Window(Control c) const { return m_controls[c]; }
+    // The selected theme's top bar, across the screen.
+    PreviewView& Strip() { return m_strip; }
 
   private:
     // Whether config.ini's theme folders differ from those the list was filled from.
@@ -54,7 +58,9 @@ class ThemeCataloguePage : public SettingsPage {
     // The entry of the selected row; null for "Custom Theme" and when nothing is selected.
     const ThemeEntry* Selected(bool* customTheme = nullptr) const;
     void OnSelectionChange();
-    void ShowDetails(const ThemeEntry* entry);
+    void ShowDetails(const ThemeEntry* entry, const IniDocument* theme);
+    void ShowTopBar(const ThemeEntry* entry, bool customTheme, const IniDocument* theme);
+    Scene TopBarScene();
     void OpenEditor();
     void DeleteSelected();
     void InstallPackageFile();
@@ -70,6 +76,10 @@ class ThemeCataloguePage : public SettingsPage {
     std::vector<std::wstring> m_listedFolders;
     // Owned here; the list rows point at them.
     std::vector<std::unique_ptr<ThemeEntry>> m_entries;
+    PreviewView m_strip;
+    // What the strip shows; null when nothing is selected.
+    const IniDocument* m_stripTheme = nullptr;
+    PreviewTheme m_stripFile;
 };
 
 } // namespace cv2

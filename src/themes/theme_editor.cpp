@@ -1,17 +1,28 @@
 #include "themes/theme_editor.h"
 
+#include <new>
+
 #include "app/app_messages.h"
 #include "ids_editor.h"
+#include "themes/preview/preview_page.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
 
 namespace cv2 {
 
-ThemeEditor::ThemeEditor(IniDocument* doc) : ThemeEditor(doc, EditorPages()) {}
+ThemeEditor::ThemeEditor(IniDocument* doc) : ThemeEditor(doc, EditorPages()) {
+    m_host.AddPage(new (std::nothrow) PreviewPage([this] { return ScratchDocument(); }), true);
+}
 
 ThemeEditor::ThemeEditor(IniDocument* doc, const std::vector<SettingsPage*>& pages) : m_doc(doc) {
     for (SettingsPage* page : pages)
         m_host.AddPage(page);
+}
+
+IniDocument ThemeEditor::ScratchDocument() {
+    IniDocument scratch = *m_doc;
+    m_host.SaveAll(&scratch);
+    return scratch;
 }
 
 bool ThemeEditor::Run(HWND parent) {

@@ -16,7 +16,8 @@ namespace cv2 {
 
 class ThemeEditor {
   public:
-    // The editor with its own pages (see EditorPages).
+    // The editor with its own pages (see EditorPages), and last, after a line in the page menu,
+    // the Preview page.
     explicit ThemeEditor(IniDocument* doc);
     // The editor with the pages given, in page-menu order; it takes ownership.
     ThemeEditor(IniDocument* doc, const std::vector<SettingsPage*>& pages);
@@ -27,6 +28,10 @@ class ThemeEditor {
     // Shows the editor modally (once); true when it ended with OK, after every page has saved
     // into the document. Cancel saves nothing.
     bool Run(HWND parent);
+
+    // What OK would save: a copy of the document with every page saved into it. The document
+    // itself is left as it is.
+    IniDocument ScratchDocument();
 
     PageHost& Host() { return m_host; }
     ImagePanel& Panel() { return m_panel; }

@@ -3,6 +3,8 @@
 #include "platform/device_colors.h"
 #include "store/scale.h"
 #include "store/screen.h"
+#include "ui/backgrounds/background_paint.h"
+#include "ui/off_screen_paint.h"
 #include "ui/shared_fonts.h"
 
 namespace cv2 {
@@ -15,22 +17,6 @@ const int kPageBackground = 25; // the device's static-control background colour
 // What the host posts its window after the first paint, once for each turn of the work that
 // waited for that paint (wParam: the turn).
 const UINT kAfterFirstPaint = WM_APP + 0xC2;
-
-void FillGradient(HDC dc, const RECT& r, COLORREF left, COLORREF right) {
-    TRIVERTEX v[2] = {};
-    v[0].x = r.left;
-    v[0].y = r.top;
-    v[0].Red = static_cast<COLOR16>(GetRValue(left) << 8);
-    v[0].Green = static_cast<COLOR16>(GetGValue(left) << 8);
-    v[0].Blue = static_cast<COLOR16>(GetBValue(left) << 8);
-    v[1].x = r.right;
-    v[1].y = r.bottom;
-    v[1].Red = static_cast<COLOR16>(GetRValue(right) << 8);
-    v[1].Green = static_cast<COLOR16>(GetGValue(right) << 8);
-    v[1].Blue = static_cast<COLOR16>(GetBValue(right) << 8);
-    GRADIENT_RECT g = {0, 1};
-    GradientFill(dc, v, 2, &g, 1, GRADIENT_FILL_RECT_H);
-}
 
 // The page-menu mark: a small black triangle pointing down at the strip's right end.
 // Returns its left edge.
@@ -67,8 +53,9 @@ PageHost::~PageHost() {
         DestroyMenu(m_pageMenu);
 }
 
-void PageHost::AddPage(SettingsPage* page) {
+void PageHost::AddPage(SettingsPage* page, bool separatorBefore) {
     m_pages.push_back(page);
+    m_separatorBefore.push_back(separatorBefore);
 }
 
 SettingsPage* PageHost::Page(int index) const {
@@ -86,7 +73,10 @@ void PageHost::BuildPages(HWND window, IniDocument* doc, Making making) {
     GetClientRect(window, &client);
     m_area = PageArea(client.right, client.bottom);
     for (int i = 0; i < PageCount(); ++i) {
-        if (SettingsPage* page = m_pages[static_cast<size_t>(i)])
+        SettingsPage* page = m_pages[static_cast<size_t>(i)];
+        if (page && m_separatorBefore[static_cast<size_t>(i)])
+            AppendMenuW(m_pageMenu, MF_SEPARATOR, 0, nullptr);
+        if (page)
             AppendMenuW(m_pageMenu, MF_STRING, static_cast<UINT_PTR>(i + 1), page->GetName());
     }
     if (making == Making::AllAtOnce)
@@ -145,7 +135,7 @@ bool PageHost::TrackPageMenu(int x, int y) {
 
 void PageHost::PaintHeader(HDC dc, const RECT& client) const {
     const RECT strip = {client.left, client.top, client.right, client.top + HeaderHeight()};
-    FillGradient(dc, strip, kHeaderLeft, kHeaderRight);
+    PaintGradient(dc, strip, kHeaderLeft, kHeaderRight);
     const int markLeft = DrawMenuMark(dc, strip);
     const RECT line = {strip.left, strip.bottom, strip.right, strip.bottom + 1};
     FillRect(dc, &line, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
@@ -161,24 +151,12 @@ void PageHost::PaintHeader(HDC dc, const RECT& client) const {
 }
 
 void PageHost::Paint() {
-    PAINTSTRUCT ps;
-    HDC dc = BeginPaint(m_hwnd, &ps);
-    RECT client;
-    GetClientRect(m_hwnd, &client);
-    HDC mem = CreateCompatibleDC(dc);
-    HBITMAP bitmap = CreateCompatibleBitmap(dc, client.right, client.bottom);
-    HGDIOBJ oldBitmap = SelectObject(mem, bitmap);
-    HBRUSH background = CreateSolidBrush(DeviceSysColor(kPageBackground));
-    FillRect(mem, &client, background);
-    DeleteObject(background);
-    PaintHeader(mem, client);
-    if (m_current)
-        m_current->Paint(mem);
-    BitBlt(dc, 0, 0, client.right, client.bottom, mem, 0, 0, SRCCOPY);
-    SelectObject(mem, oldBitmap);
-    DeleteObject(bitmap);
-    DeleteDC(mem);
-    EndPaint(m_hwnd, &ps);
+    PaintOffScreen(m_hwnd, [this](HDC dc, const RECT& client) {
+        PaintSolid(dc, client, DeviceSysColor(kPageBackground));
+        PaintHeader(dc, client);
+        if (m_current)
+            m_current->Paint(dc);
+    });
 }
 
 bool PageHost::HandleMessage(UINT msg, WPARAM wParam, LPARAM lParam, LRESULT& result) {

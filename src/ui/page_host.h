@@ -18,8 +18,9 @@ class PageHost {
     PageHost(const PageHost&) = delete;
     PageHost& operator=(const PageHost&) = delete;
 
-    // Takes ownership; a null page (failed allocation) keeps its place and is skipped.
-    void AddPage(SettingsPage* page);
+    // Takes ownership; a null page (failed allocation) keeps its place and is skipped. With
+    // `separatorBefore` the page menu draws a line above the page's item.
+    void AddPage(SettingsPage* page, bool separatorBefore = false);
     // When the pages' controls are made: all in BuildPages, or only those shown before the
     // window's first paint and the rest just after it, so the window shows at the cost of its
     // first page.
@@ -79,8 +80,9 @@ class PageHost {
     HWND m_hwnd = nullptr;
     SettingsPage* m_current = nullptr;
     std::vector<SettingsPage*> m_pages;
-    int m_created = 0; // pages [0, m_created) have their controls
-    int m_told = 0;    // pages [0, m_told) have heard OnHostShown
+    std::vector<bool> m_separatorBefore; // parallel to m_pages
+    int m_created = 0;                   // pages [0, m_created) have their controls
+    int m_told = 0;                      // pages [0, m_told) have heard OnHostShown
     bool m_painted = false;
     IniDocument* m_doc = nullptr;
     RECT m_area = {};

@@ -3,6 +3,7 @@ list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/control_layout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dialog_layout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/full_screen_dialog.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/off_screen_paint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/page_host.cpp
   ${CMAKE_CURRENT_LIST_DIR}/settings_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/shared_fonts.cpp)

@@ -5,7 +5,10 @@
 
 #include "app/page_list.h"
 #include "ids_behaviour.h"
+#include "ids_editor.h"
+#include "ids_themes.h"
 #include "platform/file_access.h"
+#include "themes/theme_editor.h"
 
 namespace cv2test {
 namespace {
@@ -29,14 +32,33 @@ std::wstring UniqueScratchFolder() {
     }
 }
 
-bool Launch(const std::wstring& exe, const std::wstring& arguments, PROCESS_INFORMATION& pi) {
+// Starts the program; with `errors` its standard error is that handle (inherited).
+bool Launch(const std::wstring& exe, const std::wstring& arguments, PROCESS_INFORMATION& pi,
+            HANDLE errors = nullptr) {
     std::wstring line = L"\"" + exe + L"\" " + arguments;
     std::vector<wchar_t> buffer(line.begin(), line.end());
     buffer.push_back(L'\0');
     STARTUPINFOW si{};
     si.cb = sizeof si;
-    return CreateProcessW(exe.c_str(), buffer.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                          &si, &pi) != 0;
+    if (errors) {
+        si.dwFlags = STARTF_USESTDHANDLES;
+        si.hStdError = errors;
+    }
+    return CreateProcessW(exe.c_str(), buffer.data(), nullptr, nullptr, errors ? TRUE : FALSE, 0,
+                          nullptr, nullptr, &si, &pi) != 0;
+}
+
+DWORD WaitForExit(PROCESS_INFORMATION& pi, DWORD timeoutMs) {
+    DWORD code = ~0u;
+    if (WaitForSingleObject(pi.hProcess, timeoutMs) == WAIT_OBJECT_0) {
+        GetExitCodeProcess(pi.hProcess, &code);
+    } else {
+        ADD_FAILURE() << "the program did not exit in time";
+        TerminateProcess(pi.hProcess, 1);
+    }
+    CloseHandle(pi.hProcess);
+    CloseHandle(pi.hThread);
+    return code;
 }
 
 } // namespace
@@ -111,15 +133,32 @@ DWORD DeviceFixture::RunEditor(const std::wstring& arguments, DWORD timeoutMs) {
         ADD_FAILURE() << "could not start the program";
         return ~0u;
     }
-    DWORD code = ~0u;
-    if (WaitForSingleObject(pi.hProcess, timeoutMs) == WAIT_OBJECT_0) {
-        GetExitCodeProcess(pi.hProcess, &code);
-    } else {
-        ADD_FAILURE() << "the program did not exit in time";
-        TerminateProcess(pi.hProcess, 1);
+    return WaitForExit(pi, timeoutMs);
+}
+
+DWORD DeviceFixture::RunEditor(const std::wstring& arguments, std::string& errors,
+                               DWORD timeoutMs) {
+    SECURITY_ATTRIBUTES inherit = {sizeof inherit, nullptr, TRUE};
+    HANDLE read = nullptr, write = nullptr;
+    if (!CreatePipe(&read, &write, &inherit, 0)) {
+        ADD_FAILURE() << "no pipe for standard error";
+        return ~0u;
     }
-    CloseHandle(pi.hProcess);
-    CloseHandle(pi.hThread);
+    SetHandleInformation(read, HANDLE_FLAG_INHERIT, 0);
+    PROCESS_INFORMATION pi{};
+    const bool started = Launch(File(L"CV2Settings.exe"), arguments, pi, write);
+    CloseHandle(write);
+    DWORD code = ~0u;
+    if (started)
+        code = WaitForExit(pi, timeoutMs);
+    else
+        ADD_FAILURE() << "could not start the program";
+    // The program has ended and its end of the pipe is closed: everything is in the pipe.
+    char chunk[512];
+    DWORD got = 0;
+    while (ReadFile(read, chunk, sizeof chunk, &got, nullptr) && got > 0)
+        errors.append(chunk, got);
+    CloseHandle(read);
     return code;
 }
 
@@ -205,6 +244,46 @@ void DeviceFixture::SelectPage(int index) {
     PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
     ASSERT_TRUE(WaitFor([] { return OpenMenu() == nullptr; })) << "the page menu stayed open";
     SendMessageW(m_main, WM_NULL, 0, 0); // the selection has been handled once this returns
+}
+
+HWND DeviceFixture::OpenThemeEditor() {
+    SendMessageW(m_main, WM_NULL, 0, 0);
+    EXPECT_TRUE(WaitFor([&] {
+        HWND customize = ShownControl(IDC_THEMES_CUSTOMIZE);
+        return customize && IsWindowEnabled(customize);
+    })) << "Customize never became enabled";
+    PostMessageW(ShownControl(IDC_THEMES_CUSTOMIZE), BM_CLICK, 0, 0);
+    HWND editor = nullptr;
+    EXPECT_TRUE(WaitFor([&] {
+        editor = FindWindowW(L"#32770", nullptr);
+        return editor && IsWindowVisible(editor) && GetDlgItem(editor, IDC_PANEL_FIRST_PATH);
+    })) << "Customize opened no editor";
+    return editor;
+}
+
+void DeviceFixture::SelectEditorPage(HWND editor, int index) {
+    ASSERT_GE(index, 0);
+    RECT client;
+    GetClientRect(editor, &client);
+    PostMessageW(editor, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - 4, 4));
+    ASSERT_TRUE(WaitFor([] { return OpenMenu() != nullptr; })) << "no page menu";
+    HWND menu = OpenMenu();
+    for (int i = 0; i <= index; ++i)
+        PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
+    PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
+    ASSERT_TRUE(WaitFor([] { return OpenMenu() == nullptr; })) << "the page menu stayed open";
+    SendMessageW(editor, WM_NULL, 0, 0);
+}
+
+int DeviceFixture::EditorPageIndex(const wchar_t* title) {
+    int index = -1, i = 0;
+    for (cv2::SettingsPage* page : cv2::EditorPages()) {
+        if (page && index < 0 && lstrcmpW(page->GetName(), title) == 0)
+            index = i;
+        delete page;
+        ++i;
+    }
+    return index;
 }
 
 void DeviceFixture::Apply() {

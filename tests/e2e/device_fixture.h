@@ -29,6 +29,8 @@ class DeviceFixture : public ::testing::Test {
 
     // Runs the program with these arguments and waits for it to exit; returns its exit code.
     DWORD RunEditor(const std::wstring& arguments, DWORD timeoutMs = 30000);
+    // The same, with what the program writes to standard error in `errors`.
+    DWORD RunEditor(const std::wstring& arguments, std::string& errors, DWORD timeoutMs = 30000);
 
     // Starts the interactive editor and waits for its main window ("CorvaneSettings").
     HWND StartEditor();
@@ -47,6 +49,14 @@ class DeviceFixture : public ::testing::Test {
     // "prefix-NN-name" with the name's letters and digits only, for screenshot files.
     static std::wstring ScreenshotName(const std::wstring& prefix, int index,
                                        const std::wstring& name);
+    // Presses My Theme's "Customize" once it is enabled (the custom theme is selected) and waits
+    // for the theme editor; its dialog, or null when none opened.
+    HWND OpenThemeEditor();
+    // Picks page `index` of the theme editor's page menu with a tap on its header strip and the
+    // keys (which pass over the menu's separator by themselves).
+    static void SelectEditorPage(HWND editor, int index);
+    // Where the editor page titled `title` stands in the page menu; -1 for none.
+    static int EditorPageIndex(const wchar_t* title);
     // Presses the menu bar's Apply (synchronous: config.ini is written when it returns).
     void Apply();
     // Presses Cancel (or Escape when `escape`) and answers the confirmation with Yes or No.

@@ -9,8 +9,6 @@
 
 #include "device_fixture.h"
 #include "ids_editor.h"
-#include "ids_themes.h"
-#include "themes/theme_editor.h"
 
 namespace cv2test {
 namespace {
@@ -101,33 +99,14 @@ class PanelPagesE2E : public DeviceFixture {
         WriteText(L"config.ini",
                   "[Settings]\nTheme File=" + Narrow(File(L"config.ini")) + "\n" + appearance);
         ASSERT_TRUE(StartEditor());
-        SendMessageW(m_main, WM_NULL, 0, 0);
-        ASSERT_TRUE(WaitFor([&] {
-            HWND customize = ShownControl(IDC_THEMES_CUSTOMIZE);
-            return customize && IsWindowEnabled(customize);
-        }));
-        PostMessageW(ShownControl(IDC_THEMES_CUSTOMIZE), BM_CLICK, 0, 0);
-        ASSERT_TRUE(WaitFor([&] {
-            m_editorDialog = FindWindowW(L"#32770", nullptr);
-            return m_editorDialog && IsWindowVisible(m_editorDialog) &&
-                   GetDlgItem(m_editorDialog, IDC_PANEL_FIRST_PATH);
-        })) << "Customize opened no editor";
+        m_editorDialog = OpenThemeEditor();
+        ASSERT_TRUE(m_editorDialog);
     }
 
-    // Picks a page from the editor's page menu, with a tap on its header strip and the keys.
     void VisitPage(const wchar_t* title) {
         const int index = EditorPageIndex(title);
         ASSERT_GE(index, 0) << Narrow(title);
-        RECT client;
-        GetClientRect(m_editorDialog, &client);
-        PostMessageW(m_editorDialog, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(client.right - 4, 4));
-        ASSERT_TRUE(WaitFor([] { return OpenMenu() != nullptr; })) << "no page menu";
-        HWND menu = OpenMenu();
-        for (int i = 0; i <= index; ++i)
-            PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
-        PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
-        ASSERT_TRUE(WaitFor([] { return OpenMenu() == nullptr; }));
-        SendMessageW(m_editorDialog, WM_NULL, 0, 0);
+        SelectEditorPage(m_editorDialog, index);
     }
 
     void TypeFirstPath(const std::wstring& path) {
@@ -175,17 +154,6 @@ class PanelPagesE2E : public DeviceFixture {
                 keys.resize(s.keys.size());
             EXPECT_EQ(keys, s.keys) << s.section;
         }
-    }
-
-    static int EditorPageIndex(const wchar_t* title) {
-        int index = -1, i = 0;
-        for (cv2::SettingsPage* page : cv2::EditorPages()) {
-            if (page && index < 0 && lstrcmpW(page->GetName(), title) == 0)
-                index = i;
-            delete page;
-            ++i;
-        }
-        return index;
     }
 
     HWND m_editorDialog = nullptr;

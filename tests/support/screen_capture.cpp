@@ -92,6 +92,13 @@ bool ScreenHasContent() {
     return false;
 }
 
+COLORREF ScreenPixel(int x, int y) {
+    HDC screen = GetDC(nullptr);
+    const COLORREF color = GetPixel(screen, x, y);
+    ReleaseDC(nullptr, screen);
+    return color;
+}
+
 void PumpMessages(DWORD ms) {
     PumpUntil([] { return false; }, ms);
 }

@@ -19,6 +19,9 @@ std::wstring SaveScreenshot(const std::wstring& name);
 // True when the screen shows more than one colour (a blank capture is a failed capture).
 bool ScreenHasContent();
 
+// The colour the screen shows at a point of it.
+COLORREF ScreenPixel(int x, int y);
+
 // Lets pending paint messages of this thread run, for up to `ms` milliseconds.
 void PumpMessages(DWORD ms);
 // Runs this thread's messages until `done` holds, for up to `ms` milliseconds; whether it held.

@@ -34,6 +34,12 @@ TEST(FontHeight, SizeBelowOneIsUsedAsTheHeightUnchanged) {
     EXPECT_EQ(FontHeightForSize(-12, 192), -12);
 }
 
+TEST(FontHeight, HugeSizesStopAtTheLargestHeight) {
+    EXPECT_EQ(FontHeightForSize(999, 192), -2004);
+    EXPECT_EQ(FontHeightForSize(5000, 96), -kMaxFontHeight);
+    EXPECT_EQ(FontHeightForSize(2147483647, 192), -kMaxFontHeight);
+}
+
 TEST(TextExtentRoom, PlainTextGetsFourScaledPixelsOfWidth) {
     const TextExtent e = MeasuredExtent({50, 13}, 0, 96);
     EXPECT_EQ(e.width, 54);

@@ -1,5 +1,6 @@
 // Screenshots of the My Theme page on the device screen the run is made for, with a theme
-// selected so the details show, after a check that nothing is cut off or overlapping.
+// selected so the details and its top bar show, after a check that nothing is cut off or
+// overlapping.
 #include <gtest/gtest.h>
 
 #include "ids_themes.h"
@@ -19,7 +20,8 @@ TEST(ThemeCatalogueScreens, ThemeSelected) {
     } themes[] = {
         {L"Themes\\Blue", "[Skin Info]\nName=Blue Glass\nAuthor=A. Maker\nAuthorEmail="
                           "maker@example.org\nHiRes=TRUE\nNotes=Glass buttons on a blue bar, "
-                          "with a matching start menu and sounds.\n"},
+                          "with a matching start menu and sounds.\n[Topbar]\nMode=gradient\n"
+                          "Use Theme Colors=FALSE\nLeft Color=8404992\nRight Color=16744448\n"},
         {L"Themes\\Plain", "[Skin Info]\nName=\nAuthor=B. Maker\n"},
         {L"Themes\\Old", "Logo=logo.bmp\n"},
     };

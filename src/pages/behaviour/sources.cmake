@@ -1,5 +1,6 @@
 list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/check_list_rows.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/clock_text.cpp
   ${CMAKE_CURRENT_LIST_DIR}/clock_values.cpp
   ${CMAKE_CURRENT_LIST_DIR}/delay_settings.cpp
   ${CMAKE_CURRENT_LIST_DIR}/general_startup.cpp

@@ -1,6 +1,7 @@
 #include "ui/backgrounds/background_dialog.h"
 
 #include "ids_ui.h"
+#include "ui/backgrounds/background_paint.h"
 #include "store/strings.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
@@ -71,20 +72,10 @@ void PaintPreview(HWND dlg, const BackgroundDialog* self) {
     const RECT strip = BackgroundPreviewRect(client.right);
     const BackgroundFill* fill = self ? &self->fill : nullptr;
     if (fill && fill->mode == kModeColor) {
-        HBRUSH brush = CreateSolidBrush(fill->solidColor);
-        FillRect(dc, &strip, brush);
-        DeleteObject(brush);
+        PaintSolid(dc, strip, fill->solidColor);
         FrameRect(dc, &strip, GetSysColorBrush(COLOR_WINDOWFRAME));
     } else if (fill && fill->mode == kModeGradient && fill->useThemeColors == 0) {
-        const ColorRef l = fill->leftColor, r = fill->rightColor;
-        TRIVERTEX v[2] = {
-            {strip.left, strip.top, static_cast<COLOR16>(RedOf(l) << 8),
-             static_cast<COLOR16>(GreenOf(l) << 8), static_cast<COLOR16>(BlueOf(l) << 8), 0},
-            {strip.right, strip.bottom, static_cast<COLOR16>(RedOf(r) << 8),
-             static_cast<COLOR16>(GreenOf(r) << 8), static_cast<COLOR16>(BlueOf(r) << 8), 0},
-        };
-        GRADIENT_RECT g = {0, 1};
-        GradientFill(dc, v, 2, &g, 1, GRADIENT_FILL_RECT_H);
+        PaintGradient(dc, strip, fill->leftColor, fill->rightColor);
         FrameRect(dc, &strip, GetSysColorBrush(COLOR_WINDOWFRAME));
     }
     EndPaint(dlg, &ps);

@@ -12,15 +12,8 @@ namespace {
 void BlendOnto(HDC dc, const PixelImage& picture, int x, int y) {
     const int w = picture.width;
     const int h = picture.height;
-    BITMAPINFO bmi = {};
-    bmi.bmiHeader.biSize = sizeof bmi.bmiHeader;
-    bmi.bmiHeader.biWidth = w;
-    bmi.bmiHeader.biHeight = -h; // top-down, like the picture
-    bmi.bmiHeader.biPlanes = 1;
-    bmi.bmiHeader.biBitCount = 32;
-    bmi.bmiHeader.biCompression = BI_RGB;
     void* bits = nullptr;
-    HBITMAP under = CreateDIBSection(dc, &bmi, DIB_RGB_COLORS, &bits, nullptr, 0);
+    HBITMAP under = CreateDib(w, h, 32, true, &bits); // top-down, like the picture
     HDC memory = under ? CreateCompatibleDC(dc) : nullptr;
     if (!memory) {
         if (under)

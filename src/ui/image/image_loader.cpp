@@ -1,5 +1,7 @@
 #include "ui/image/image_loader.h"
 
+#include <algorithm>
+
 #include "platform/image_decoder.h"
 #include "ui/image/image_files.h"
 #include "ui/image/image_scale.h"
@@ -16,7 +18,7 @@ DWORD CALLBACK ReadChunk(LPSTR buffer, DWORD bufferMax, LPARAM lParam) {
 
 } // namespace
 
-PixelImage DecodeWithPlatform(const std::wstring& path) {
+PixelImage DecodeWithPlatform(const std::wstring& path, int maxWidth, int maxHeight) {
     HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                               FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
@@ -30,6 +32,8 @@ PixelImage DecodeWithPlatform(const std::wstring& path) {
     info.phBM = &bitmap;
     info.iBitDepth = 32;
     info.lParam = reinterpret_cast<LPARAM>(file);
+    info.iMaxWidth = maxWidth > 0 ? maxWidth : 0;
+    info.iMaxHeight = maxHeight > 0 ? maxHeight : 0;
     info.pfnGetData = ReadChunk;
     const HRESULT hr = DecompressImageIndirect(&info);
     CloseHandle(file);
@@ -50,6 +54,21 @@ PixelImage ReadImagePixels(const std::wstring& path) {
         break;
     }
     return DecodeWithPlatform(path);
+}
+
+PixelImage ReadImagePixels(const std::wstring& path, int maxWidth, int maxHeight) {
+    if (maxWidth <= 0 || maxHeight <= 0)
+        return ReadImagePixels(path);
+    PixelImage pixels = ReaderForPath(path) == ImageReader::Platform
+                            ? DecodeWithPlatform(path, maxWidth, maxHeight)
+                            : ReadImagePixels(path);
+    if (pixels.Empty() || (pixels.width <= maxWidth && pixels.height <= maxHeight))
+        return pixels;
+    // The program's own readers give the whole picture (within the pixel cap); it is shrunk here.
+    const double factor = std::min(static_cast<double>(maxWidth) / pixels.width,
+                                   static_cast<double>(maxHeight) / pixels.height);
+    return ScaleImage(pixels, std::max(1, static_cast<int>(pixels.width * factor)),
+                      std::max(1, static_cast<int>(pixels.height * factor)));
 }
 
 LoadedImage LoadImageFile(const std::wstring& path, int wantedWidth, int wantedHeight) {

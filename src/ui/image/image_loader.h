@@ -17,8 +17,12 @@ LoadedImage LoadImageFile(const std::wstring& path, int wantedWidth, int wantedH
 
 // The picture at `path` at its own size, before scaling; empty when it cannot be read.
 PixelImage ReadImagePixels(const std::wstring& path);
+// The same, shrunk (shape kept) to fit maxWidth x maxHeight when it is larger. A large photo is
+// shrunk by the decoder while it decodes, never held whole.
+PixelImage ReadImagePixels(const std::wstring& path, int maxWidth, int maxHeight);
 
-// The picture at `path` decoded by the platform's image decoder, reading the file in chunks.
-PixelImage DecodeWithPlatform(const std::wstring& path);
+// The picture at `path` decoded by the platform's image decoder, reading the file in chunks;
+// larger than maxWidth x maxHeight (when given) it is shrunk to fit.
+PixelImage DecodeWithPlatform(const std::wstring& path, int maxWidth = 0, int maxHeight = 0);
 
 } // namespace cv2

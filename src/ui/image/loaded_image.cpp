@@ -6,17 +6,6 @@
 namespace cv2 {
 namespace {
 
-HBITMAP CreateDib(int width, int height, int bitCount, void** bits) {
-    BITMAPINFO bmi = {};
-    bmi.bmiHeader.biSize = sizeof bmi.bmiHeader;
-    bmi.bmiHeader.biWidth = width;
-    bmi.bmiHeader.biHeight = height; // positive: bottom-up
-    bmi.bmiHeader.biPlanes = 1;
-    bmi.bmiHeader.biBitCount = static_cast<WORD>(bitCount);
-    bmi.bmiHeader.biCompression = BI_RGB;
-    return CreateDIBSection(nullptr, &bmi, DIB_RGB_COLORS, bits, nullptr, 0);
-}
-
 int Stride24(int width) {
     return (width * 3 + 3) & ~3;
 }
@@ -105,7 +94,7 @@ LoadedImage LoadedImage::FromPixels(const PixelImage& pixels) {
     if (pixels.Empty())
         return image;
     void* bits = nullptr;
-    image.m_bitmap = CreateDib(pixels.width, pixels.height, 24, &bits);
+    image.m_bitmap = CreateDib(pixels.width, pixels.height, 24, false, &bits);
     if (!image.m_bitmap)
         return image;
     image.m_bits = static_cast<unsigned char*>(bits);
@@ -166,6 +155,17 @@ void LoadedImage::Flatten(COLORREF background) {
         }
     }
     m_alpha.clear();
+}
+
+HBITMAP CreateDib(int width, int height, int bitCount, bool topDown, void** bits) {
+    BITMAPINFO bmi = {};
+    bmi.bmiHeader.biSize = sizeof bmi.bmiHeader;
+    bmi.bmiHeader.biWidth = width;
+    bmi.bmiHeader.biHeight = topDown ? -height : height;
+    bmi.bmiHeader.biPlanes = 1;
+    bmi.bmiHeader.biBitCount = static_cast<WORD>(bitCount);
+    bmi.bmiHeader.biCompression = BI_RGB;
+    return CreateDIBSection(nullptr, &bmi, DIB_RGB_COLORS, bits, nullptr, 0);
 }
 
 PixelImage PixelsFromBitmap(HBITMAP bitmap) {

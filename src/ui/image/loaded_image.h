@@ -55,6 +55,10 @@ class LoadedImage {
     std::vector<unsigned char> m_alpha;
 };
 
+// A device-independent bitmap of `bitCount` bits per pixel, its rows from the top when `topDown`
+// and from the bottom otherwise; `bits` receives its pixels. Null when it cannot be made.
+HBITMAP CreateDib(int width, int height, int bitCount, bool topDown, void** bits);
+
 // The pixels of any bitmap. A 32-bit DIB section keeps its fourth bytes as alpha when they carry
 // transparency (not all 255, not all 0); other bitmaps are read as opaque.
 PixelImage PixelsFromBitmap(HBITMAP bitmap);

@@ -13,6 +13,7 @@
 #include "store/strings.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_object.h"
+#include "ui/off_screen_paint.h"
 
 namespace cv2 {
 namespace {
@@ -102,28 +103,18 @@ void OnNumberChanged(HWND dlg, const ColorPicker* self, int edit) {
 }
 
 void OnPaint(HWND dlg, const ColorPicker* self) {
-    PAINTSTRUCT ps;
-    HDC screen = BeginPaint(dlg, &ps);
-    RECT client;
-    GetClientRect(dlg, &client);
-    HDC mem = CreateCompatibleDC(screen);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, client.right, client.bottom);
-    HGDIOBJ oldBitmap = SelectObject(mem, bitmap);
-    FillRect(mem, &client, DeviceStaticBrush());
-    RECT swatch;
-    if (self && IntersectRect(&swatch, &self->preview, &client)) {
-        HBRUSH brush = CreateSolidBrush(ColorOfSliders(dlg));
-        HGDIOBJ oldBrush = SelectObject(mem, brush);
-        const RECT& p = self->preview;
-        Rectangle(mem, p.left, p.top, p.right, p.bottom);
-        SelectObject(mem, oldBrush);
-        DeleteObject(brush);
-    }
-    BitBlt(screen, 0, 0, client.right, client.bottom, mem, 0, 0, SRCCOPY);
-    SelectObject(mem, oldBitmap);
-    DeleteObject(bitmap);
-    DeleteDC(mem);
-    EndPaint(dlg, &ps);
+    PaintOffScreen(dlg, [dlg, self](HDC mem, const RECT& client) {
+        FillRect(mem, &client, DeviceStaticBrush());
+        RECT swatch;
+        if (self && IntersectRect(&swatch, &self->preview, &client)) {
+            HBRUSH brush = CreateSolidBrush(ColorOfSliders(dlg));
+            HGDIOBJ oldBrush = SelectObject(mem, brush);
+            const RECT& p = self->preview;
+            Rectangle(mem, p.left, p.top, p.right, p.bottom);
+            SelectObject(mem, oldBrush);
+            DeleteObject(brush);
+        }
+    });
 }
 
 void OnCommand(HWND dlg, ColorPicker* self, WPARAM wParam) {

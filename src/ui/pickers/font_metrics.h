@@ -11,7 +11,9 @@ namespace cv2 {
 
 // Character height (negative, as the platform takes it) for `points` on a screen of `dpiY`.
 // Three points are added before scaling: the bar's fonts are meant to come out that much larger
-// than their nominal size. A size below 1 is taken as a height as it is.
+// than their nominal size. A size below 1 is taken as a height as it is; no height is larger
+// than kMaxFontHeight, whatever size a theme names.
+constexpr int kMaxFontHeight = 4096;
 int FontHeightForSize(int points, int dpiY);
 
 // Width and height of drawn text: the plain extent, widened by the fixed margin and by what a

@@ -59,16 +59,20 @@ void FontRecord::CopyValues(const FontRecord& other) {
 
 bool FontRecord::Create(const wchar_t* newFace, int newSize, uint32_t newStyle, bool newClearType,
                         HDC dc) {
+    HDC measureDc = dc ? dc : GetDC(nullptr);
+    const int dpiY = GetDeviceCaps(measureDc, LOGPIXELSY);
+    if (!dc)
+        ReleaseDC(nullptr, measureDc);
+    return CreateAt(newFace, newSize, newStyle, newClearType, dpiY);
+}
+
+bool FontRecord::CreateAt(const wchar_t* newFace, int newSize, uint32_t newStyle, bool newClearType,
+                          int dpiY) {
     // The face may be this record's own; take it before anything changes.
     wchar_t wanted[kFaceChars + 1] = {};
     lstrcpynW(wanted, newFace ? newFace : L"", kFaceChars + 1);
     Release();
     clearType = newClearType ? 1 : 0;
-
-    HDC measureDc = dc ? dc : GetDC(nullptr);
-    const int dpiY = GetDeviceCaps(measureDc, LOGPIXELSY);
-    if (!dc)
-        ReleaseDC(nullptr, measureDc);
 
     LOGFONTW lf = {};
     lf.lfHeight = FontHeightForSize(newSize, dpiY);

@@ -31,6 +31,9 @@ class FontRecord {
     // failure there is no font, the face is empty and size and style are 0. Flags that do not
     // shape the font (shadow, glow) are kept with it for drawing.
     bool Create(const wchar_t* face, int size, uint32_t style, bool clearType, HDC dc = nullptr);
+    // The same for a screen of `dpiY` dots per inch vertically (a picture drawn for another
+    // screen than this one).
+    bool CreateAt(const wchar_t* face, int size, uint32_t style, bool clearType, int dpiY);
     // Copies the face, cut to capacity - 1 characters; returns the copied length.
     int GetFace(wchar_t* buffer, int capacity) const;
 

@@ -1,0 +1,25 @@
+// Texts of the preview of the bar: the editor's Preview page, the sample texts the preview
+// draws, and the messages of the command line that writes a preview image.
+CV_STRING(IDS_PREVIEW, 1300, L"Preview")
+CV_STRING(IDS_PREVIEW_NOTE, 1301, L"Approximate: the bar may differ.")
+// Sample texts inside the picture.
+CV_STRING(IDS_PREVIEW_TITLE, 1302, L"Today")
+CV_STRING(IDS_PREVIEW_PROGRAMS, 1303, L"Programs")
+CV_STRING(IDS_PREVIEW_SETTINGS, 1304, L"Settings")
+CV_STRING(IDS_PREVIEW_FIND, 1305, L"Find")
+CV_STRING(IDS_PREVIEW_HELP, 1306, L"Help")
+CV_STRING(IDS_PREVIEW_GAMES, 1307, L"Games")
+CV_STRING(IDS_PREVIEW_ACCESSORIES, 1308, L"Accessories")
+CV_STRING(IDS_PREVIEW_WINDOW, 1309, L"Sample Window")
+CV_STRING(IDS_PREVIEW_WINDOW_TEXT, 1310, L"Window text")
+CV_STRING(IDS_PREVIEW_SELECTED, 1311, L"Selected item")
+CV_STRING(IDS_PREVIEW_UNAVAILABLE, 1312, L"Unavailable item")
+CV_STRING(IDS_PREVIEW_BUTTON, 1313, L"Button")
+CV_STRING(IDS_PREVIEW_CHECK_BOX, 1314, L"Check box")
+CV_STRING(IDS_PREVIEW_RADIO_BUTTON, 1315, L"Radio button")
+CV_STRING(IDS_PREVIEW_NEW, 1316, L"New")
+// The command line's messages on standard error.
+CV_STRING(IDS_PREVIEW_USAGE, 1320, L"Usage: CV2Settings.exe --preview=<theme file> --out=<image file> [--size=WxH] [--dpi=N] [--start-menu]\n")
+CV_STRING(IDS_PREVIEW_NO_THEME, 1321, L"The theme file %s cannot be read.\n")
+CV_STRING(IDS_PREVIEW_NOT_WRITTEN, 1322, L"The image %s could not be written.\n")
+CV_STRING(IDS_PREVIEW_NO_PNG, 1323, L"This system cannot write PNG images; name the image .bmp instead.\n")

@@ -2,8 +2,8 @@
 #include <windows.h>
 
 #include "app/bar_notify.h"
-#include "app/exe_folder.h"
 #include "app/theme_switch.h"
+#include "platform/exe_folder.h"
 #include "store/language_strings.h"
 
 namespace cv2 {

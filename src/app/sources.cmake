@@ -1,7 +1,6 @@
 list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/theme_switch.cpp)
 list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/about_box.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/app_messages.cpp
   ${CMAKE_CURRENT_LIST_DIR}/bar_notify.cpp
   ${CMAKE_CURRENT_LIST_DIR}/editor.cpp
   ${CMAKE_CURRENT_LIST_DIR}/page_list.cpp

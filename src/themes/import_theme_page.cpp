@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "app/app_messages.h"
 #include "ids_editor.h"
 #include "pages/appearance/theme_path_keys.h"
 #include "store/format_text.h"
@@ -14,6 +13,7 @@
 #include "themes/older_theme_device.h"
 #include "themes/theme_files.h"
 #include "themes/theme_info_dialog.h"
+#include "themes/theme_messages.h"
 #include "themes/theme_transfer.h"
 #include "ui/child_controls.h"
 #include "ui/control_layout.h"

@@ -13,4 +13,5 @@ list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/overrides_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/theme_catalogue_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/theme_editor.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/theme_info_dialog.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/theme_info_dialog.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/theme_messages.cpp)

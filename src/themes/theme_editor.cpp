@@ -1,7 +1,7 @@
 #include "themes/theme_editor.h"
 
-#include "app/app_messages.h"
 #include "ids_editor.h"
+#include "themes/theme_messages.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
 

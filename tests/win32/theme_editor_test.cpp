@@ -3,10 +3,10 @@
 // two registered messages reload and export the pages.
 #include "themes/theme_editor.h"
 
-#include "app/app_messages.h"
 #include "app_fixture.h"
 #include "ids_editor.h"
 #include "theme_editor_support.h"
+#include "themes/theme_messages.h"
 
 using namespace cv2;
 using cv2test::DialogDriver;

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "ids_editor.h"
+#include "pages/appearance/image_panel.h"
 #include "pages/appearance/theme_path_keys.h"
 #include "store/format_text.h"
 #include "store/paths.h"
 #include "store/scale.h"
-#include "themes/image_panel.h"
 #include "themes/older_theme_device.h"
 #include "themes/theme_files.h"
 #include "themes/theme_info_dialog.h"

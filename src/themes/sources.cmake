@@ -7,7 +7,6 @@ list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/theme_transfer.cpp)
 list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/editor_pages.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/image_panel.cpp
   ${CMAKE_CURRENT_LIST_DIR}/import_theme_page.cpp
   ${CMAKE_CURRENT_LIST_DIR}/older_theme_device.cpp
   ${CMAKE_CURRENT_LIST_DIR}/overrides_page.cpp

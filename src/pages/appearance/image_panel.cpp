@@ -1,4 +1,4 @@
-#include "themes/image_panel.h"
+#include "pages/appearance/image_panel.h"
 
 #include "ids_editor.h"
 #include "platform/device_colors.h"

@@ -16,3 +16,5 @@ endforeach()
 list(APPEND CV2_CORE_POSIX ${platform_posix})
 # The fault tests inject into replacing writes, shared by both file-access forms.
 list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/write_fault.cpp)
+# The device's theme colours as a table with their fall-backs: portable, so the core can test it.
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/theme_color_table.cpp)

@@ -2,7 +2,6 @@ list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/older_theme.cpp
   ${CMAKE_CURRENT_LIST_DIR}/overrides_values.cpp
   ${CMAKE_CURRENT_LIST_DIR}/theme_catalogue.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/theme_color_table.cpp
   ${CMAKE_CURRENT_LIST_DIR}/theme_files.cpp
   ${CMAKE_CURRENT_LIST_DIR}/theme_transfer.cpp)
 list(APPEND CV2_WIN_SOURCES

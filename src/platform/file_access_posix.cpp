@@ -113,6 +113,9 @@ bool RemoveFolderTree(const std::wstring& folder) {
 }
 
 uint32_t FileAttributes(const std::wstring& path) {
+    uint32_t injected = 0;
+    if (InjectedAttributesOf(path, injected))
+        return injected;
     struct stat st;
     if (::stat(HostPath(path).c_str(), &st) != 0)
         return kNoFileAttributes;
@@ -173,8 +176,12 @@ bool FileExists(const std::wstring& path) {
     return ::stat(HostPath(path).c_str(), &st) == 0 && S_ISREG(st.st_mode);
 }
 
-bool RemoveFile(const std::wstring& path) { return ::unlink(HostPath(path).c_str()) == 0; }
+bool RemoveFile(const std::wstring& path) {
+    return ::unlink(HostPath(path).c_str()) == 0;
+}
 
-const char* TextLineEnd() { return "\n"; }
+const char* TextLineEnd() {
+    return "\n";
+}
 
 } // namespace cv2

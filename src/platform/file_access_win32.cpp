@@ -59,7 +59,9 @@ bool ReadWholeFile(const std::wstring& path, Bytes& out) {
 
 namespace {
 
-unsigned long LastError() { return GetLastError(); }
+unsigned long LastError() {
+    return GetLastError();
+}
 
 // A read-only file is not replaced: Windows refuses that, and Wine would not.
 bool ReplaceWithTemporary(const std::wstring& temp, const std::wstring& path) {
@@ -115,7 +117,9 @@ bool FileExists(const std::wstring& path) {
     return attr != INVALID_FILE_ATTRIBUTES && !(attr & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-bool RemoveFile(const std::wstring& path) { return DeleteFileW(path.c_str()) != 0; }
+bool RemoveFile(const std::wstring& path) {
+    return DeleteFileW(path.c_str()) != 0;
+}
 
 std::vector<std::wstring> ListSubfolders(const std::wstring& folder) {
     std::vector<std::wstring> names;
@@ -153,9 +157,14 @@ bool RemoveFolderTree(const std::wstring& folder) {
 }
 
 uint32_t FileAttributes(const std::wstring& path) {
+    uint32_t injected = 0;
+    if (InjectedAttributesOf(path, injected))
+        return injected;
     return GetFileAttributesW(path.c_str());
 }
 
-const char* TextLineEnd() { return "\r\n"; }
+const char* TextLineEnd() {
+    return "\r\n";
+}
 
 } // namespace cv2

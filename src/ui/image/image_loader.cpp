@@ -1,5 +1,7 @@
 #include "ui/image/image_loader.h"
 
+#include <algorithm>
+
 #include "platform/image_decoder.h"
 #include "ui/image/image_files.h"
 #include "ui/image/image_scale.h"
@@ -14,13 +16,22 @@ DWORD CALLBACK ReadChunk(LPSTR buffer, DWORD bufferMax, LPARAM lParam) {
     return got;
 }
 
-} // namespace
+// Bytes in memory handed out in chunks, as the decoder reads a file.
+struct MemoryFile {
+    const unsigned char* data;
+    size_t size;
+    size_t at = 0;
+};
 
-PixelImage DecodeWithPlatform(const std::wstring& path) {
-    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                              FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return {};
+DWORD CALLBACK ReadMemoryChunk(LPSTR buffer, DWORD bufferMax, LPARAM lParam) {
+    auto* file = reinterpret_cast<MemoryFile*>(lParam);
+    const size_t count = std::min<size_t>(bufferMax, file->size - file->at);
+    std::copy_n(file->data + file->at, count, buffer);
+    file->at += count;
+    return static_cast<DWORD>(count);
+}
+
+PixelImage Decode(GETIMAGEDATA read, LPARAM source) {
     BYTE chunk[8192];
     HBITMAP bitmap = nullptr;
     DecompressImageInfo info = {};
@@ -29,10 +40,9 @@ PixelImage DecodeWithPlatform(const std::wstring& path) {
     info.dwBufferMax = sizeof chunk;
     info.phBM = &bitmap;
     info.iBitDepth = 32;
-    info.lParam = reinterpret_cast<LPARAM>(file);
-    info.pfnGetData = ReadChunk;
+    info.lParam = source;
+    info.pfnGetData = read;
     const HRESULT hr = DecompressImageIndirect(&info);
-    CloseHandle(file);
     if (FAILED(hr) || !bitmap)
         return {};
     PixelImage pixels = PixelsFromBitmap(bitmap);
@@ -40,10 +50,27 @@ PixelImage DecodeWithPlatform(const std::wstring& path) {
     return pixels;
 }
 
+} // namespace
+
+PixelImage DecodeWithPlatform(const std::wstring& path) {
+    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                              FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return {};
+    PixelImage pixels = Decode(ReadChunk, reinterpret_cast<LPARAM>(file));
+    CloseHandle(file);
+    return pixels;
+}
+
+PixelImage DecodeBytesWithPlatform(const unsigned char* data, size_t size) {
+    MemoryFile file{data, size};
+    return Decode(ReadMemoryChunk, reinterpret_cast<LPARAM>(&file));
+}
+
 PixelImage ReadImagePixels(const std::wstring& path) {
     switch (ReaderForPath(path)) {
     case ImageReader::Icon:
-        return ReadIconFile(path, GetSystemMetrics(SM_CXICON));
+        return ReadIconFile(path, GetSystemMetrics(SM_CXICON), DecodeBytesWithPlatform);
     case ImageReader::Targa:
         return ReadTargaFile(path);
     case ImageReader::Platform:

@@ -20,5 +20,7 @@ PixelImage ReadImagePixels(const std::wstring& path);
 
 // The picture at `path` decoded by the platform's image decoder, reading the file in chunks.
 PixelImage DecodeWithPlatform(const std::wstring& path);
+// The same for a whole image file held in memory (a PNG-coded image inside an icon file).
+PixelImage DecodeBytesWithPlatform(const unsigned char* data, size_t size);
 
 } // namespace cv2

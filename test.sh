@@ -32,6 +32,7 @@ run_screens() {
         rm -rf "$dir" && mkdir -p "$dir"
         export CV2_SCREEN="$screen" CV2_SCREENS_DIR="$(winpath "$dir")"
         export CV2_DEVICE_DIR="$(winpath "$BUILD/device")" CV2_SAMPLES_DIR="$(winpath "$ROOT/samples/device")"
+        export CV2_PSEUDO_LANGUAGE="$(winpath "$BUILD/win/pseudo/language.dll")"
         for t in win32_tests e2e_tests; do
             "$WINE" "$BUILD/win/tests/$t.exe" --gtest_filter='*Screens.*' --gtest_brief=1 || return 1
         done

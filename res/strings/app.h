@@ -9,3 +9,5 @@ CV_STRING(IDS_ABOUT_SUPPORT, 219, L"Support:")
 CV_STRING(IDS_SAVE_FAILED_CAPTION, 1090, L"Settings Not Saved")
 CV_STRING(IDS_SAVE_FAILED, 1091, L"The settings could not be written to %s.\r\n\r\n%s\r\n\r\nYour changes are kept: press Apply again once the file can be written.")
 CV_STRING(IDS_SAVE_FAILED_UNKNOWN, 1092, L"Error %s.")
+// The desktop's stand-in for the device's "ok" button in the title bar of a full-screen dialog.
+CV_STRING(IDS_DONE_BUTTON, 1200, L"ok")

@@ -1,9 +1,9 @@
 #include "app/about_box.h"
 
-#include "app/exe_folder.h"
 #include "app/version_info.h"
 #include "ids_app.h"
 #include "platform/device_colors.h"
+#include "platform/exe_folder.h"
 #include "store/strings.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"

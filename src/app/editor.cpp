@@ -2,13 +2,13 @@
 // its message loop.
 #include <windows.h>
 
-#include "app/exe_folder.h"
 #include "app/page_list.h"
 #include "app/settings_app.h"
 #include "pages/behaviour/plugins/plugin_registry.h"
 #include "pages/behaviour/top_bar_state.h"
 #include "platform/com.h"
 #include "platform/device_phone.h"
+#include "platform/exe_folder.h"
 #include "store/screen.h"
 #include "ui/icon_grid.h"
 

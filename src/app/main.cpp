@@ -2,10 +2,10 @@
 #include <windows.h>
 
 #include "app/bar_notify.h"
-#include "app/exe_folder.h"
 #include "app/preview_arguments.h"
 #include "app/preview_command.h"
 #include "app/theme_switch.h"
+#include "platform/exe_folder.h"
 #include "store/language_strings.h"
 
 namespace cv2 {

@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "app/exe_folder.h"
+#include "platform/exe_folder.h"
 #include "pages/behaviour/button_assignments_page.h"
 #include "pages/behaviour/button_order_page.h"
 #include "pages/behaviour/clock_settings_page.h"

@@ -3,10 +3,8 @@ list(APPEND CV2_CORE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/theme_switch.cpp)
 list(APPEND CV2_WIN_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/about_box.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/app_messages.cpp
   ${CMAKE_CURRENT_LIST_DIR}/bar_notify.cpp
   ${CMAKE_CURRENT_LIST_DIR}/editor.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/exe_folder.cpp
   ${CMAKE_CURRENT_LIST_DIR}/page_list.cpp
   ${CMAKE_CURRENT_LIST_DIR}/preview_command.cpp
   ${CMAKE_CURRENT_LIST_DIR}/save_failure.cpp

@@ -147,6 +147,7 @@ constexpr uint32_t kNoFileAttributes = 0xFFFFFFFFu;
 constexpr uint32_t kAttributeFolder = 0x10;
 constexpr uint32_t kAttributeTemporary = 0x100;
 uint32_t FileAttributes(const std::wstring& path);
+void InjectFileAttributes(const std::wstring& path, uint32_t attributes); // tests: write_fault.h
 
 // The platform's text-mode line end: "\r\n" on Windows, "\n" elsewhere.
 const char* TextLineEnd();

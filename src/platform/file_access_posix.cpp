@@ -115,6 +115,9 @@ bool RemoveFolderTree(const std::wstring& folder) {
 }
 
 uint32_t FileAttributes(const std::wstring& path) {
+    uint32_t injected = 0;
+    if (InjectedAttributesOf(path, injected))
+        return injected;
     struct stat st;
     if (::stat(HostPath(path).c_str(), &st) != 0)
         return kNoFileAttributes;

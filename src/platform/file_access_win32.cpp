@@ -233,6 +233,9 @@ bool RemoveFolderTree(const std::wstring& folder) {
 }
 
 uint32_t FileAttributes(const std::wstring& path) {
+    uint32_t injected = 0;
+    if (InjectedAttributesOf(path, injected))
+        return injected;
     return GetFileAttributesW(path.c_str());
 }
 

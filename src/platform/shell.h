@@ -2,9 +2,10 @@
 // meaning. On desktop Windows this layer implements them itself:
 //   - the menu bar is a toolbar in its own window along the bottom of the work area, below the
 //     window it belongs to, like the device's soft-key bar;
-//   - a full-screen dialog fills the work area, and its Done button is the caption's close box,
-//     which reports IDOK;
-//   - the Done button of a top-level window is a request that the desktop has no place to show;
+//   - a full-screen dialog fills the work area, and its Done button is a push button reading
+//     "ok" in place of the caption's close box, which reports IDOK (platform/done_button.h);
+//   - the Done button of a top-level window is a request that the desktop has no place to show:
+//     the main window has no caption, and its Apply and Cancel stand on its menu bar;
 //   - a shortcut is a shell link file made through the desktop shell's link object.
 #pragma once
 

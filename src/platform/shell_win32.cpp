@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "platform/done_button.h"
 #include "store/scale.h"
 
 namespace cv2 {
@@ -17,24 +18,11 @@ namespace {
 const wchar_t kBarClass[] = L"CV2MenuBar";
 const wchar_t kOwnerProp[] = L"CV2MenuBarOwner";
 const UINT kFirstMenuButton = 0xE000; // ids of the buttons that open the menu's popups
-const UINT_PTR kDoneSubclass = 1;
 
 RECT WorkArea() {
     RECT wa;
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &wa, 0);
     return wa;
-}
-
-// The full-screen dialog's close box is its Done button: it reports IDOK.
-LRESULT CALLBACK DoneButtonProc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                DWORD_PTR) {
-    if (msg == WM_SYSCOMMAND && (wParam & 0xFFF0) == SC_CLOSE) {
-        PostMessageW(hwnd, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-        return 0;
-    }
-    if (msg == WM_NCDESTROY)
-        RemoveWindowSubclass(hwnd, DoneButtonProc, kDoneSubclass);
-    return DefSubclassProc(hwnd, msg, wParam, lParam);
 }
 
 // Opens the popup of menu button `index` above the bar and sends the chosen command.
@@ -177,7 +165,7 @@ BOOL SHInitDialog(SHINITDLGINFO* info) {
                      SWP_NOZORDER);
     }
     if (info->dwFlags & SHIDIF_DONEBUTTON)
-        SetWindowSubclass(info->hDlg, DoneButtonProc, kDoneSubclass, 0);
+        InstallDoneButton(info->hDlg);
     return TRUE;
 }
 

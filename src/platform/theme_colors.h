@@ -1,8 +1,8 @@
 // The device's theme colours, read from the registry (the table and its fall-backs are in
-// themes/theme_color_table.h). Every page and conversion that needs them asks here.
+// platform/theme_color_table.h). Every page and conversion that needs them asks here.
 #pragma once
 
-#include "ui/pickers/color_value.h"
+#include "store/color_ref.h"
 
 namespace cv2 {
 

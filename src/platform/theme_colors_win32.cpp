@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "platform/device_colors.h"
-#include "themes/theme_color_table.h"
+#include "platform/theme_color_table.h"
 
 namespace cv2 {
 namespace {

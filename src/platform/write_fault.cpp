@@ -3,9 +3,24 @@
 namespace cv2 {
 namespace {
 
-WriteFailure g_fault; // one thread: the program has no other
+// One thread: the program has no other.
+WriteFailure g_fault;
+std::wstring g_attributesPath;
+uint32_t g_attributes = 0;
 
 } // namespace
+
+void InjectFileAttributes(const std::wstring& path, uint32_t attributes) {
+    g_attributesPath = path;
+    g_attributes = attributes;
+}
+
+bool InjectedAttributesOf(const std::wstring& path, uint32_t& attributes) {
+    if (g_attributesPath.empty() || path != g_attributesPath)
+        return false;
+    attributes = g_attributes;
+    return true;
+}
 
 void InjectWriteFault(WriteStep step, unsigned long error) {
     g_fault = WriteFailure{step, error};

@@ -4,16 +4,16 @@
 #include <string>
 #include <vector>
 
-#include "app/app_messages.h"
 #include "ids_editor.h"
+#include "pages/appearance/image_panel.h"
 #include "pages/appearance/theme_path_keys.h"
 #include "store/format_text.h"
 #include "store/paths.h"
 #include "store/scale.h"
-#include "themes/image_panel.h"
 #include "themes/older_theme_device.h"
 #include "themes/theme_files.h"
 #include "themes/theme_info_dialog.h"
+#include "themes/theme_messages.h"
 #include "themes/theme_package.h"
 #include "themes/theme_transfer.h"
 #include "ui/child_controls.h"

@@ -1,10 +1,13 @@
 #include "themes/overrides_page.h"
 
+#include <algorithm>
+
 #include "ui/child_controls.h"
 
 #include "ids_themes.h"
 #include "themes/overrides_values.h"
 #include "ui/control_layout.h"
+#include "ui/text_extent.h"
 
 namespace cv2 {
 namespace {
@@ -76,11 +79,24 @@ void ThemeOverridesPage::Create(HWND host) {
     FillFontList(m_controls[FontList], ScreenFontFamilies());
 }
 
+// A translated box text may need more lines than the box is high: the box grows by the extra
+// lines and everything under it moves down as far.
 void ThemeOverridesPage::OnSize(const RECT&) {
     if (!m_controls[Sounds])
         return;
-    for (int i = 0; i < Count; ++i)
-        PlaceWindow(m_controls[i], kPlaces[i], Area());
+    const RECT area = Area();
+    int drop = 0;
+    for (int i = 0; i < Count; ++i) {
+        RECT r = PlaceRectIn(kPlaces[i], area);
+        OffsetRect(&r, 0, drop);
+        if (i != FontList) {
+            const int extra =
+                WrappedLabelHeight(m_controls[i], r.right - r.left) - LineHeight(m_controls[i]);
+            r.bottom += std::max(0, extra);
+            drop += std::max(0, extra);
+        }
+        MoveWindow(m_controls[i], r.left, r.top, r.right - r.left, r.bottom - r.top, TRUE);
+    }
 }
 
 void ThemeOverridesPage::Show(bool visible) {

@@ -1,8 +1,8 @@
 #include "themes/theme_catalogue_page.h"
 
-#include "app/exe_folder.h"
 #include "ids_themes.h"
 #include "pages/appearance/theme_path_keys.h"
+#include "platform/exe_folder.h"
 #include "platform/file_access.h"
 #include "store/config_sections.h"
 #include "store/paths.h"

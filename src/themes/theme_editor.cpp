@@ -2,9 +2,10 @@
 
 #include <new>
 
-#include "app/app_messages.h"
 #include "ids_editor.h"
+#include "store/strings.h"
 #include "themes/preview/preview_page.h"
+#include "themes/theme_messages.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
 
@@ -37,6 +38,9 @@ bool ThemeEditor::OnInit(HWND dialog) {
     m_dialog = dialog;
     if (!InitFullScreenDialog(dialog) || !AddEmptyMenuBar(dialog))
         return false;
+    // Escape alone is no visible way out: Cancel stands on the bar at the foot of the screen,
+    // where the main window keeps its own soft keys.
+    AddMenuBarButton(dialog, IDCANCEL, Localized(IDS_CANCEL));
     SetDialogFonts(dialog, nullptr, 0);
     m_panel.Attach(dialog);
     // The editor shows at the cost of its first page; the others are made once it has painted.

@@ -8,8 +8,8 @@
 
 #include <vector>
 
+#include "pages/appearance/image_panel.h"
 #include "store/ini_document.h"
-#include "themes/image_panel.h"
 #include "ui/page_host.h"
 
 namespace cv2 {

@@ -1,7 +1,6 @@
 #include "themes/theme_transfer.h"
 
-#include <unordered_map>
-
+#include "pages/appearance/notification_list.h"
 #include "store/config_sections.h"
 #include "store/paths.h"
 
@@ -20,21 +19,6 @@ ImportedAs ImportTheme(IniDocument& edited, const IniDocument& chosen,
     }
     ConvertOlderTheme(chosen, edited, colors);
     return ImportedAs::OlderFormat;
-}
-
-std::vector<std::wstring> CustomNotificationNames(const IniDocument& doc) {
-    // One pass over the section instead of one search per key: the first entry of a key wins,
-    // as it does for a look-up by key.
-    std::unordered_map<std::wstring, std::wstring> byKey;
-    for (const IniDocument::EntryRef& e : doc.GetSectionEntries(config::kCustomNotifications))
-        byKey.emplace(e.first, e.second);
-    std::vector<std::wstring> names;
-    for (size_t i = 0;; ++i) {
-        const auto it = byKey.find(std::to_wstring(i));
-        if (it == byKey.end() || it->second.empty())
-            return names;
-        names.push_back(it->second);
-    }
 }
 
 void ImportCurrentFormat(IniDocument& edited, const IniDocument& chosen) {

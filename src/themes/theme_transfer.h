@@ -14,7 +14,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "store/ini_document.h"
 #include "themes/older_theme.h"
@@ -38,10 +37,6 @@ ImportedAs ImportTheme(IniDocument& edited, const IniDocument& chosen,
 // itself) and merges `chosen` in, relative image names resolved against `chosen`'s folder.
 // Sections that `chosen` lacks are thereby gone from `edited`; other sections stay.
 void ImportCurrentFormat(IniDocument& edited, const IniDocument& chosen);
-
-// The names in section "Custom Notifications": keys "0", "1", ... up to the first one that is
-// missing or empty.
-std::vector<std::wstring> CustomNotificationNames(const IniDocument& doc);
 
 // Completes an exported theme: copies section "Task Panel" of `edited` into `exported` (no page
 // writes it; it travels as it stands, in stored order), then rewrites every absolute path of an

@@ -1,5 +1,7 @@
 #include "ui/dialog_layout.h"
 
+#include <commctrl.h>
+
 #include "platform/shell.h"
 #include "store/scale.h"
 #include "store/screen.h"
@@ -33,6 +35,19 @@ bool AddEmptyMenuBar(HWND dialog) {
     bar.hwndParent = dialog;
     bar.dwFlags = SHCMBF_EMPTYBAR;
     return SHCreateMenuBar(&bar) != FALSE;
+}
+
+bool AddMenuBarButton(HWND dialog, int command, const wchar_t* text) {
+    HWND bar = SHFindMenuBar(dialog);
+    if (!bar)
+        return false;
+    TBBUTTON button = {};
+    button.iBitmap = I_IMAGENONE;
+    button.idCommand = command;
+    button.fsState = TBSTATE_ENABLED;
+    button.fsStyle = BTNS_BUTTON | BTNS_AUTOSIZE | BTNS_SHOWTEXT;
+    button.iString = reinterpret_cast<INT_PTR>(text);
+    return SendMessageW(bar, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&button)) != FALSE;
 }
 
 } // namespace cv2

@@ -23,5 +23,8 @@ INT_PTR RunDialog(HWND owner, const DialogTemplates& templates, DLGPROC proc, LP
 bool InitFullScreenDialog(HWND dialog);
 // Gives a full-screen dialog the shell's menu bar without any menu.
 bool AddEmptyMenuBar(HWND dialog);
+// Puts a text button on the dialog's menu bar that sends `command` to the dialog, as the device's
+// soft key does; false when the dialog has no bar.
+bool AddMenuBarButton(HWND dialog, int command, const wchar_t* text);
 
 } // namespace cv2

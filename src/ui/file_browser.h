@@ -2,7 +2,8 @@
 // the thumbnail grid (pictures in image mode), a filter drop-down and a file-name box. It picks a
 // file, or in folder mode a folder, and remembers per kind of file the last folder used.
 //
-// The dialog uses the thumbnail grid's window class; Run registers it when the program has not.
+// The dialog uses the thumbnail grid's window class, which the program registers at start-up
+// (RegisterIconGridClass) before any browser runs.
 #pragma once
 
 #include <windows.h>

@@ -89,8 +89,8 @@ LRESULT OnSetView(GridState& s, WPARAM wParam, LPARAM lParam) {
 LRESULT OnSetColors(GridState& s, WPARAM wParam, LPARAM lParam) {
     s.textColor = static_cast<COLORREF>(wParam);
     s.backColor = static_cast<COLORREF>(lParam);
-    if (s.images && s.ownsImages)
-        ImageList_SetBkColor(s.images, s.backColor);
+    // The image list keeps its mask colour: were it the background, a picture's pixels of that
+    // colour (white on the window colour) would turn transparent and show a selected cell's blue.
     return 0;
 }
 

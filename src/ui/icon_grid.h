@@ -20,6 +20,10 @@ namespace cv2 {
 
 constexpr wchar_t kIconGridClass[] = L"TRLGRIDEX";
 
+// The background colour of the grid's own image list, magenta: pictures are drawn onto it and its
+// pixels become the mask, so it shows as transparent whatever colours the grid is given.
+constexpr COLORREF kGridMaskColor = 0xFF00FF;
+
 // Registers the window class for `instance` once; true when it is (or already was) registered.
 bool RegisterIconGridClass(HINSTANCE instance);
 

@@ -1,12 +1,11 @@
 // The grid's own image list and the fitting of bitmaps into it.
 #include "store/scale.h"
+#include "ui/icon_grid.h"
 #include "ui/icon_grid_state.h"
 
 namespace cv2 {
 namespace {
 
-// Magenta marks the transparent parts of a picture until the parent gives its own background.
-constexpr COLORREF kTransparent = 0xFF00FF;
 // Raster operation "destination AND NOT source": clears the colour image where the mask is set.
 constexpr DWORD kClearMasked = 0x00220326;
 
@@ -39,7 +38,7 @@ HIMAGELIST CreateGridImageList(int view) {
     const int side = view == 0 ? ScaleX(kThumbPicture) : GetSystemMetrics(SM_CXSMICON);
     HIMAGELIST images = ImageList_Create(side, side, ILC_COLOR24 | ILC_MASK, 0, 8);
     if (images)
-        ImageList_SetBkColor(images, kTransparent);
+        ImageList_SetBkColor(images, kGridMaskColor);
     return images;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/text_extent.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace cv2 {
@@ -44,6 +45,19 @@ int LineHeight(HWND control) {
     TEXTMETRICW tm = {};
     GetTextMetricsW(font.dc(), &tm);
     return tm.tmHeight + tm.tmExternalLeading;
+}
+
+int WrappedLabelHeight(HWND button, int boxWidth) {
+    std::vector<wchar_t> text(GetWindowTextLengthW(button) + 1, L'\0');
+    GetWindowTextW(button, text.data(), static_cast<int>(text.size()));
+    // The mark and the gap after it; the gap is taken generously, so a text that only just fits
+    // is counted as wrapping rather than being cut.
+    const int mark = GetSystemMetrics(SM_CXMENUCHECK);
+    RECT r = {0, 0, std::max(1, boxWidth - mark - mark / 2), 0};
+    FontDC font(button);
+    DrawTextW(font.dc(), text.data(), -1, &r,
+              DT_CALCRECT | DT_WORDBREAK | DT_EXTERNALLEADING | DT_NOPREFIX);
+    return std::max<int>(r.bottom - r.top, LineHeight(button));
 }
 
 } // namespace cv2

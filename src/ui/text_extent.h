@@ -11,5 +11,8 @@ int TextWidth(HWND control, const wchar_t* text);
 int WindowTextWidth(HWND control);
 // Height in pixels of one line of the control's font, with its leading.
 int LineHeight(HWND control);
+// Height in pixels of a multi-line check box's or radio button's own text broken into lines to
+// fit beside its mark in a box `boxWidth` pixels wide; at least one line.
+int WrappedLabelHeight(HWND button, int boxWidth);
 
 } // namespace cv2

@@ -79,6 +79,38 @@ class ControlPagesE2E : public DeviceFixture {
         SendMessageW(GetDlgItem(dialog, id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
     }
 
+    // A click of the left button at a place of the screen, as the user makes it; the pointer
+    // goes back to the corner where it waits.
+    static void ClickAt(POINT at) {
+        SetCursorPos(at.x, at.y);
+        INPUT clicks[2] = {};
+        clicks[0].type = clicks[1].type = INPUT_MOUSE;
+        clicks[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+        clicks[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+        SendInput(2, clicks, sizeof(INPUT));
+        Sleep(200);
+        SetCursorPos(0, 0);
+    }
+
+    // The middle of the right end of the dialog's caption, where the "ok" button stands.
+    static POINT CaptionButton(HWND dialog) {
+        TITLEBARINFO bar = {};
+        bar.cbSize = sizeof bar;
+        GetTitleBarInfo(dialog, &bar);
+        return {bar.rcTitleBar.right - GetSystemMetrics(SM_CXSIZE) / 2,
+                (bar.rcTitleBar.top + bar.rcTitleBar.bottom) / 2};
+    }
+
+    // The middle of the first button of the menu bar along the bottom of the screen.
+    static POINT FirstMenuBarButton(HWND dialog) {
+        HWND bar = FindWindowW(L"CV2MenuBar", nullptr);
+        while (bar && GetWindow(bar, GW_OWNER) != dialog)
+            bar = FindWindowExW(nullptr, bar, L"CV2MenuBar", nullptr);
+        RECT r = {};
+        GetWindowRect(bar, &r);
+        return {r.left + (r.bottom - r.top) / 2, (r.top + r.bottom) / 2};
+    }
+
     static bool End(HWND dialog, int with) {
         PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(with, BN_CLICKED), 0);
         return WaitFor([&] { return !IsWindow(dialog); });
@@ -145,6 +177,29 @@ TEST_F(ControlPagesE2E, CustomizeThenOkThenApplyWritesTheDefaultsOfEveryPage) {
             got.push_back(std::wstring(e.first) + L"=" + e.second);
         EXPECT_EQ(got, want) << Narrow(section.name);
     }
+}
+
+TEST_F(ControlPagesE2E, TheOkButtonInTheEditorsCaptionKeepsItsPagesValues) {
+    HWND editor = OpenEditor();
+    ASSERT_TRUE(editor) << "Customize opened no editor";
+    SetText(editor, IDC_SOUNDS_PATH, L"\\Windows\\close.wav");
+    SetForegroundWindow(editor);
+    ClickAt(CaptionButton(editor));
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(editor); })) << "the editor is still open";
+    Apply();
+    EXPECT_NE(SectionText("Sounds").find(Lines("Close=\\Windows\\close.wav\n")), std::string::npos)
+        << SectionText("Sounds");
+}
+
+TEST_F(ControlPagesE2E, CancelOnTheEditorsMenuBarDropsItsPagesValues) {
+    HWND editor = OpenEditor();
+    ASSERT_TRUE(editor) << "Customize opened no editor";
+    SetText(editor, IDC_SOUNDS_PATH, L"\\Windows\\close.wav");
+    SetForegroundWindow(editor);
+    ClickAt(FirstMenuBarButton(editor));
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(editor); })) << "the editor is still open";
+    Apply();
+    EXPECT_EQ(SectionText("Sounds"), "<missing>");
 }
 
 TEST_F(ControlPagesE2E, CustomizeThenCancelThenApplyWritesNoneOfThem) {

@@ -11,12 +11,45 @@ using cv2test::IconFile;
 
 namespace {
 
-PixelImage Read(const std::string& file, int wanted) {
-    return ReadIcon(reinterpret_cast<const unsigned char*>(file.data()), file.size(), wanted);
+PixelImage Read(const std::string& file, int wanted, const PngDecoder& decodePng = nullptr) {
+    return ReadIcon(reinterpret_cast<const unsigned char*>(file.data()), file.size(), wanted,
+                    decodePng);
 }
 
-PixelImage ReadFile(const std::string& name, int defaultSize = 32) {
-    return ReadIconFile(cv2test::ImageDataPath(name), defaultSize);
+PixelImage ReadFile(const std::string& name, int defaultSize = 32,
+                    const PngDecoder& decodePng = nullptr) {
+    return ReadIconFile(cv2test::ImageDataPath(name), defaultSize, decodePng);
+}
+
+// The PNG files a decoder was given, in order.
+struct PngCalls {
+    std::vector<std::string> given;
+};
+
+// A decoder that keeps what it is given and answers a 7 x 1 picture.
+PngDecoder Noting(PngCalls& calls) {
+    return [&calls](const unsigned char* data, size_t size) {
+        calls.given.emplace_back(reinterpret_cast<const char*>(data), size);
+        return MakePixelImage(7, 1);
+    };
+}
+
+// The start of a PNG file: its signature and header chunk (the checksum is not looked at).
+std::string PngHeader(int width, int bitDepth, int colourType) {
+    std::string s = "\x89PNG\r\n\x1a\n";
+    const auto bigEndian = [&s](uint32_t v) {
+        for (int shift = 24; shift >= 0; shift -= 8)
+            s += static_cast<char>((v >> shift) & 0xFF);
+    };
+    bigEndian(13);
+    s += "IHDR";
+    bigEndian(static_cast<uint32_t>(width));
+    bigEndian(static_cast<uint32_t>(width));
+    s += static_cast<char>(bitDepth);
+    s += static_cast<char>(colourType);
+    s += std::string(3, '\0');
+    bigEndian(0);
+    return s;
 }
 
 // A square 32-bit image of one colour (blue, green, red, alpha as a little-endian number).
@@ -94,10 +127,59 @@ TEST(IconReader, PictureIsHalfTheStoredHeight) {
     EXPECT_EQ(image.height, 8);
 }
 
-TEST(IconReader, PngCodedImageIsNeverChosen) {
+TEST(IconReader, PngImageTakesPartInTheChoiceByTheWidthInItsHeader) {
     // A 16 x 16 bitmap image and a 48 x 48 PNG-coded one.
-    EXPECT_TRUE(
-        cv2test::SamePixels(ReadFile("icon_with_png.ico|48"), cv2test::Picture("graded16")));
+    PngCalls calls;
+    const PixelImage image = ReadFile("icon_with_png.ico|48", 32, Noting(calls));
+    ASSERT_EQ(calls.given.size(), 1u);
+    EXPECT_EQ(calls.given[0], cv2test::ReadImageData("graded48.png"));
+    EXPECT_EQ(image.width, 7) << "the decoder's picture is the image";
+}
+
+TEST(IconReader, BitmapImageThatFitsBetterIsStillChosen) {
+    PngCalls calls;
+    const PixelImage image = ReadFile("icon_with_png.ico|16", 32, Noting(calls));
+    EXPECT_TRUE(calls.given.empty());
+    EXPECT_TRUE(cv2test::SamePixels(image, cv2test::Picture("graded16")));
+}
+
+TEST(IconReader, IconOfPngImagesOnlyChoosesAmongThemBySize) {
+    const std::string file =
+        IconFile({cv2test::ReadImageData("graded16.png"), cv2test::ReadImageData("graded32.png"),
+                  cv2test::ReadImageData("graded48.png")});
+    for (const auto& [wanted, picture] :
+         std::vector<std::pair<int, std::string>>{{32, "graded32.png"},
+                                                  {47, "graded32.png"},
+                                                  {64, "graded48.png"},
+                                                  {20, "graded16.png"},
+                                                  {8, "graded16.png"}}) {
+        PngCalls calls;
+        Read(file, wanted, Noting(calls));
+        ASSERT_EQ(calls.given.size(), 1u) << wanted;
+        EXPECT_EQ(calls.given[0], cv2test::ReadImageData(picture)) << wanted;
+    }
+}
+
+TEST(IconReader, PngImageOfMoreThanThirtyTwoBitsIsSkipped) {
+    // Sixteen bits for each of red, green, blue and alpha.
+    PngCalls calls;
+    const PixelImage image =
+        Read(IconFile({PngHeader(16, 16, 6), Solid32(16, 0xFF010203)}), 16, Noting(calls));
+    EXPECT_TRUE(calls.given.empty());
+    EXPECT_EQ(image.width, 16);
+}
+
+TEST(IconReader, PngImageWithADamagedHeaderIsNotChosen) {
+    std::string damaged = PngHeader(16, 8, 6);
+    damaged[12] = 'X'; // the first chunk is no longer the header
+    PngCalls calls;
+    const PixelImage image = Read(IconFile({Solid4(8, 0x445566), damaged}), 16, Noting(calls));
+    EXPECT_TRUE(calls.given.empty());
+    EXPECT_EQ(image.width, 8);
+}
+
+TEST(IconReader, ChosenPngImageWithoutADecoderGivesNothing) {
+    EXPECT_TRUE(ReadFile("icon_with_png.ico|48").Empty());
 }
 
 TEST(IconReader, PaletteImageTakesTransparencyFromTheMask) {

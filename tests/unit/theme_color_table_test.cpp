@@ -1,5 +1,5 @@
 // The device theme colours: registry value names and fall-backs.
-#include "themes/theme_color_table.h"
+#include "platform/theme_color_table.h"
 
 #include <gtest/gtest.h>
 

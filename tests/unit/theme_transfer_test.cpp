@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "pages/appearance/notification_list.h"
 #include "platform/file_access.h"
 #include "temp_folder.h"
 #include "theme_test_text.h"

@@ -1,8 +1,8 @@
 // The four bar background pages on the real theme editor and its image panel: paths moved
 // through the panel, the settings dialogs each opens, and the soft keys' fixed mode.
-#include "app/app_messages.h"
 #include "ids_ui.h"
 #include "panel_pages_support.h"
+#include "themes/theme_messages.h"
 
 using namespace cv2;
 using cv2test::DialogDriver;

@@ -7,7 +7,9 @@
 
 #include <algorithm>
 
+#include "../unit/image_test_data.h"
 #include "file_browser_support.h"
+#include "icon_grid_host.h"
 #include "ids_ui.h"
 #include "rule_page_support.h"
 #include "store/screen.h"
@@ -436,6 +438,31 @@ TEST_F(FileBrowserTest, OpensTheTemplateOfTheScreensShape) {
     if (ScreenWidth() == ScreenHeight()) {
         EXPECT_EQ(browser.TemplateUsed(), IDD_FILE_BROWSER_SQUARE);
     }
+}
+
+// opaque.bmp is 23 x 17 with a white block at (14, 10) to (22, 16), small enough to keep its size
+// in the middle of its slot.
+TEST_F(FileBrowserTest, ThumbnailsKeepTheirWhitePixels) {
+    ASSERT_TRUE(
+        CopyFileW(ImageDataPath("opaque.bmp").c_str(), m_dir.File(L"opaque.bmp").c_str(), FALSE));
+    FileBrowser browser(true, false);
+    browser.SetFilter(L"All Files|*.*", false, nullptr);
+    browser.startFolder = Bare(m_dir.Path());
+    COLORREF white = 0;
+    EXPECT_FALSE(Run(browser, {[&](HWND dialog) {
+                         LetItPaint(dialog);
+                         HWND grid = GetDlgItem(dialog, IDC_BROWSE_FILES);
+                         SendMessageW(grid, GRM_SETSEL, 0, 0);
+                         HIMAGELIST images = reinterpret_cast<HIMAGELIST>(
+                             SendMessageW(grid, GRM_GETIMAGELIST, 0, 0));
+                         int side = 0, unused = 0;
+                         ImageList_GetIconSize(images, &side, &unused);
+                         // Drawn on blue, as a selected cell's ground is.
+                         white = cv2test::ImagePixelOn(images, 0, (side - 23) / 2 + 18,
+                                                       (side - 17) / 2 + 13, RGB(0, 0, 255));
+                         PressItem(dialog, IDCANCEL);
+                     }}));
+    EXPECT_EQ(white, RGB(255, 255, 255));
 }
 
 TEST_F(FileBrowserTest, ImageModeMakesThumbnailsOfPicturesOnly) {

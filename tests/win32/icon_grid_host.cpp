@@ -221,4 +221,25 @@ COLORREF GridPixel(HWND grid, int x, int y) {
     return c;
 }
 
+// Draws picture `index` of `images` onto `ground` and reads the pixel at (x, y).
+COLORREF ImagePixelOn(HIMAGELIST images, int index, int x, int y, COLORREF ground) {
+    int side = 0, unused = 0;
+    ImageList_GetIconSize(images, &side, &unused);
+    HDC screen = GetDC(nullptr);
+    HDC mem = CreateCompatibleDC(screen);
+    HBITMAP canvas = CreateCompatibleBitmap(screen, side, side);
+    HGDIOBJ old = SelectObject(mem, canvas);
+    const RECT all = {0, 0, side, side};
+    HBRUSH brush = CreateSolidBrush(ground);
+    FillRect(mem, &all, brush);
+    DeleteObject(brush);
+    ImageList_Draw(images, index, mem, 0, 0, ILD_TRANSPARENT);
+    const COLORREF c = GetPixel(mem, x, y);
+    SelectObject(mem, old);
+    DeleteObject(canvas);
+    DeleteDC(mem);
+    ReleaseDC(nullptr, screen);
+    return c;
+}
+
 } // namespace cv2test

@@ -71,4 +71,7 @@ HBITMAP SolidBitmap(int width, int height, COLORREF color);
 // Pixel of the grid's client area as shown on screen.
 COLORREF GridPixel(HWND grid, int x, int y);
 
+// Draws picture `index` of `images` onto a slot-sized `ground` and reads the pixel at (x, y).
+COLORREF ImagePixelOn(HIMAGELIST images, int index, int x, int y, COLORREF ground);
+
 } // namespace cv2test

@@ -40,22 +40,9 @@ bool AnyPixel(HWND grid, const RECT& r, COLORREF color) {
     return false;
 }
 
-// Draws picture `index` of `images` onto white and reads the pixel at (x, y).
+// The same on white.
 COLORREF ImagePixel(HIMAGELIST images, int index, int x, int y) {
-    const int side = SlotSize(images);
-    HDC screen = GetDC(nullptr);
-    HDC mem = CreateCompatibleDC(screen);
-    HBITMAP canvas = CreateCompatibleBitmap(screen, side, side);
-    HGDIOBJ old = SelectObject(mem, canvas);
-    const RECT all = {0, 0, side, side};
-    FillRect(mem, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-    ImageList_Draw(images, index, mem, 0, 0, ILD_TRANSPARENT);
-    const COLORREF c = GetPixel(mem, x, y);
-    SelectObject(mem, old);
-    DeleteObject(canvas);
-    DeleteDC(mem);
-    ReleaseDC(nullptr, screen);
-    return c;
+    return ImagePixelOn(images, index, x, y, RGB(255, 255, 255));
 }
 
 // An image list of the test's own, given to the grid; freed after the grid is gone.
@@ -132,10 +119,20 @@ TEST(IconGridMessages, GridCaptionsGlowWhiteAndListCaptionsDoNot) {
     EXPECT_TRUE(AnyPixel(host.grid, row, RGB(0, 0, 0)) || AnyPixel(host.grid, row, RGB(1, 1, 1)));
 }
 
-TEST(IconGridMessages, SetColorsGivesOwnedImageListTheBackground) {
+TEST(IconGridMessages, SetColorsKeepsTheMaskColourOfTheOwnedImageList) {
     GridHost host;
     EXPECT_EQ(host.Send(GRM_SETCOLORS, kRed, RGB(0, 128, 0)), 0);
-    EXPECT_EQ(ImageList_GetBkColor(Images(host)), RGB(0, 128, 0));
+    EXPECT_EQ(ImageList_GetBkColor(Images(host)), kGridMaskColor);
+}
+
+// The file browser gives the grid the window colour, white: pictures keep their white pixels,
+// also where they are drawn on something else, as on a selected cell.
+TEST(IconGridMessages, PicturesKeepPixelsOfTheGridsBackgroundColour) {
+    GridHost host;
+    host.Send(GRM_SETCOLORS, RGB(0, 0, 0), kWhite);
+    const int mid = SlotSize(Images(host)) / 2;
+    AddBitmap(host, 10, 10, kWhite);
+    EXPECT_EQ(ImagePixelOn(Images(host), 0, mid, mid, kBlue), kWhite);
 }
 
 TEST(IconGridMessages, SetColorsLeavesAdoptedImageListAlone) {
@@ -356,10 +353,10 @@ TEST(IconGridMessages, LargeBitmapFillsTheSlotKeepingItsShape) {
     EXPECT_EQ(ImagePixel(Images(host), 0, mid, side - 1 - side / 8), kWhite);
 }
 
-TEST(IconGridMessages, BackgroundColouredPixelsBecomeTransparent) {
+TEST(IconGridMessages, MaskColouredPixelsBecomeTransparent) {
     GridHost host;
     const int mid = SlotSize(Images(host)) / 2;
-    AddBitmap(host, 10, 10, RGB(255, 0, 255)); // the list's own background: magenta
+    AddBitmap(host, 10, 10, kGridMaskColor); // magenta
     EXPECT_EQ(ImagePixel(Images(host), 0, mid, mid), kWhite);
 }
 

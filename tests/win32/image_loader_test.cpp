@@ -97,6 +97,20 @@ TEST(ImageLoader, IconPathWithoutSuffixWantsTheSystemIconWidth) {
         << "system icon width " << system;
 }
 
+TEST(ImageLoader, PngImageOfAnIconIsDecodedByThePlatform) {
+    // A 16 x 16 bitmap image and a 48 x 48 PNG-coded one.
+    EXPECT_TRUE(
+        cv2test::SamePixels(Load("icon_with_png.ico|48").ToPixels(), cv2test::Picture("graded48")));
+}
+
+// As icons for current desktops are made: every image PNG-coded, one chosen by the same rule.
+TEST(ImageLoader, IconOfPngImagesOnlyShowsTheImageOfTheWantedSize) {
+    EXPECT_TRUE(
+        cv2test::SamePixels(Load("icon_png_only.ico|32").ToPixels(), cv2test::Picture("graded32")));
+    EXPECT_TRUE(
+        cv2test::SamePixels(Load("icon_png_only.ico|20").ToPixels(), cv2test::Picture("graded16")));
+}
+
 TEST(ImageLoader, TargaIsReadByTheProgramsOwnReader) {
     EXPECT_TRUE(cv2test::SamePixels(Load("opaque24_tl_rle.tga").ToPixels(),
                                     cv2test::Opaque(cv2test::Picture("opaque"))));

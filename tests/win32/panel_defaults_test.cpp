@@ -5,7 +5,7 @@
 
 #include "panel_pages_support.h"
 #include "platform/device_colors.h"
-#include "themes/theme_color_table.h"
+#include "platform/theme_color_table.h"
 
 using namespace cv2;
 

@@ -182,6 +182,23 @@ TEST_F(PanelImagePages, StartMenuDialogOkTakesIconsAndMarginsButNotThePictures) 
     EXPECT_EQ(doc.GetString(L"Start Menu Skin", L"Right Margin", L"?"), L"0");
 }
 
+TEST_F(PanelImagePages, StartMenuMarginFieldsTakeDigitsOnly) {
+    std::vector<std::wstring> typed;
+    RunSettingsDialog(
+        cv2test::kStartMenuSkinPage,
+        [&](HWND menu) {
+            for (int id : {IDC_MENU_LEFT, IDC_MENU_RIGHT, IDC_MENU_SUB_LEFT, IDC_MENU_SUB_RIGHT}) {
+                HWND box = GetDlgItem(menu, id);
+                SetWindowTextW(box, L"");
+                for (wchar_t c : std::wstring(L"1a2-B3"))
+                    SendMessageW(box, WM_CHAR, c, 1);
+                typed.push_back(cv2test::DlgText(menu, id));
+            }
+        },
+        IDCANCEL);
+    EXPECT_EQ(typed, (std::vector<std::wstring>{L"123", L"123", L"123", L"123"}));
+}
+
 TEST_F(PanelImagePages, ThemeWithoutStartMenuSkinSavesUseColorsFalseAndZeroMargins) {
     EXPECT_TRUE(RunEditor(cv2test::kStartMenuSkinPage, [](HWND) {}));
     EXPECT_EQ(doc.GetString(L"Start Menu Skin", L"Use Colors", L"?"), L"FALSE");

@@ -126,6 +126,23 @@ TEST_F(PanelPagesScreens, PathRowsTakeTheRoomOfPreviewsAPageDoesNotShow) {
     }
 }
 
+// A path is the longer thing to read: where the previews stand beside the rows, the path boxes
+// take the larger part of the width.
+TEST_F(PanelPagesScreens, PathBoxesAreWiderThanThePreviewsBesideThem) {
+    RunEditor(
+        cv2test::kTaskbarBackgroundPage,
+        [&](HWND dlg) {
+            const RECT path = cv2test::ItemRect(dlg, IDC_PANEL_FIRST_PATH);
+            const RECT browse = cv2test::ItemRect(dlg, IDC_PANEL_FIRST_BROWSE);
+            const RECT preview = cv2test::ItemRect(dlg, IDC_PANEL_FIRST_PREVIEW);
+            if (preview.top >= browse.bottom)
+                return; // under the rows: each has the whole width
+            EXPECT_LE(browse.right, preview.left);
+            EXPECT_GT(path.right - path.left, preview.right - preview.left);
+        },
+        IDCANCEL);
+}
+
 TEST_F(PanelPagesScreens, RowsGoBackBesideThePreviewsOnThePageAfterOneWithoutThem) {
     RunEditor(
         cv2test::kStartMenuSkinPage,

@@ -3,9 +3,9 @@
 // text and hands the whole text to the platform's playback.
 #include "control_pages_support.h"
 #include "pages/appearance/list_pages.h"
-#include "app/app_messages.h"
 #include "platform/sound_playback.h"
 #include "temp_folder.h"
+#include "themes/theme_messages.h"
 
 using namespace cv2;
 using cv2test::DialogDriver;

@@ -4,8 +4,8 @@
 #include "control_pages_support.h"
 #include "pages/appearance/list_pages.h"
 #include "pages/platform_colors.h"
+#include "platform/theme_color_table.h"
 #include "ui/control_layout.h"
-#include "themes/theme_color_table.h"
 
 using namespace cv2;
 using cv2test::DialogDriver;

@@ -16,6 +16,7 @@
 #include "store/scale.h"
 #include "store/screen.h"
 #include "temp_folder.h"
+#include "themes/theme_catalogue.h"
 #include "themes/theme_catalogue_page.h"
 
 using namespace cv2;
@@ -189,6 +190,24 @@ TEST_F(ThemeCataloguePageTest, ApplyOfACurrentThemeStoresItsPathOffCard) {
     m_page.Save(nullptr);
     EXPECT_EQ(Value(L"Theme File"), m_dir.File(L"Themes\\Blue\\blue.skin"));
     EXPECT_EQ(Value(L"Theme On Card"), L"FALSE");
+}
+
+// A mounted storage card marks its top folder with the temporary attribute; the attribute
+// query is answered here as a card would answer it.
+TEST_F(ThemeCataloguePageTest, ApplyOfAThemeOnACardStoresThemeOnCardTrue) {
+    StandardThemes();
+    Open("[Settings]\nTheme On Card=FALSE\n");
+    const std::wstring theme = m_dir.File(L"Themes\\Blue\\blue.skin");
+    struct Card {
+        explicit Card(const std::wstring& folder) {
+            InjectFileAttributes(folder, kAttributeFolder | kAttributeTemporary);
+        }
+        ~Card() { InjectFileAttributes(L"", 0); }
+    } card(CardFolder(theme));
+    Select(L"Deep Blue");
+    m_page.Save(nullptr);
+    EXPECT_EQ(Value(L"Theme File"), theme);
+    EXPECT_EQ(Value(L"Theme On Card"), L"TRUE");
 }
 
 TEST_F(ThemeCataloguePageTest, ApplyOfTheCustomThemeStoresConfigPath) {

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/device_colors.h"
+#include "platform/theme_color_table.h"
 #include "platform/theme_colors.h"
-#include "themes/theme_color_table.h"
 
 using namespace cv2;
 

@@ -9,9 +9,9 @@
 
 #include "color_dialog_driver.h"
 #include "ids_editor.h"
+#include "pages/appearance/image_panel.h"
 #include "screen_capture.h"
 #include "store/ini_document.h"
-#include "themes/image_panel.h"
 #include "themes/theme_editor.h"
 #include "ui/settings_page.h"
 

@@ -3,10 +3,13 @@
 // two registered messages reload and export the pages.
 #include "themes/theme_editor.h"
 
-#include "app/app_messages.h"
+#include <commctrl.h>
+
 #include "app_fixture.h"
+#include "platform/shell.h"
 #include "ids_editor.h"
 #include "theme_editor_support.h"
+#include "themes/theme_messages.h"
 
 using namespace cv2;
 using cv2test::DialogDriver;
@@ -124,6 +127,75 @@ TEST_F(ThemeEditorTest, CancelAfterChangingSeveralPagesLeavesTheDocumentAsItWas)
         IDCANCEL);
     EXPECT_FALSE(editor.Run(host));
     EXPECT_EQ(doc.Serialize(), before);
+}
+
+namespace {
+
+// Clicks the button of `command` on the dialog's menu bar as the pointer does, and gives its text.
+std::wstring ClickMenuBarButton(HWND dlg, int command) {
+    HWND bar = SHFindMenuBar(dlg);
+    const LRESULT index = SendMessageW(bar, TB_COMMANDTOINDEX, static_cast<WPARAM>(command), 0);
+    if (!bar || index < 0)
+        return L"<no such button>";
+    wchar_t text[64] = {};
+    SendMessageW(bar, TB_GETBUTTONTEXTW, static_cast<WPARAM>(command),
+                 reinterpret_cast<LPARAM>(text));
+    RECT r = {};
+    SendMessageW(bar, TB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&r));
+    const LPARAM at = MAKELPARAM((r.left + r.right) / 2, (r.top + r.bottom) / 2);
+    SendMessageW(bar, WM_LBUTTONDOWN, MK_LBUTTON, at);
+    SendMessageW(bar, WM_LBUTTONUP, 0, at);
+    return text;
+}
+
+// Presses a key in the editor's first field, through the editor's own message loop.
+void PressKey(HWND dlg, WPARAM key) {
+    HWND field = GetDlgItem(dlg, kFieldA);
+    SetFocus(field);
+    PostMessageW(field, WM_KEYDOWN, key, 1);
+    PostMessageW(field, WM_KEYUP, key, 0xC0000001);
+}
+
+} // namespace
+
+// The menu bar's Cancel ends the editor as Escape does; were it to leave the editor open, the
+// OK that follows would save the typed text.
+TEST_F(ThemeEditorTest, CancelOnTheMenuBarEndsTheEditorWithoutSaving) {
+    const std::string before = doc.Serialize();
+    ThemeEditor editor(&doc, ThreeFields());
+    std::wstring label;
+    DialogDriver::OnNextDialog(
+        [&](HWND dlg) {
+            TypeInto(dlg, kFieldA, L"changed a");
+            label = ClickMenuBarButton(dlg, IDCANCEL);
+        },
+        IDOK);
+    EXPECT_FALSE(editor.Run(host));
+    EXPECT_EQ(label, L"Cancel");
+    EXPECT_EQ(doc.Serialize(), before);
+}
+
+TEST_F(ThemeEditorTest, EscapeEndsTheEditorWithoutSaving) {
+    const std::string before = doc.Serialize();
+    ThemeEditor editor(&doc, ThreeFields());
+    DialogDriver driver({[&](HWND dlg) {
+        TypeInto(dlg, kFieldA, L"changed a");
+        PressKey(dlg, VK_ESCAPE);
+    }});
+    EXPECT_FALSE(editor.Run(host));
+    EXPECT_FALSE(driver.CancelledAStuckDialog());
+    EXPECT_EQ(doc.Serialize(), before);
+}
+
+TEST_F(ThemeEditorTest, EnterEndsTheEditorWithOk) {
+    ThemeEditor editor(&doc, ThreeFields());
+    DialogDriver driver({[&](HWND dlg) {
+        TypeInto(dlg, kFieldA, L"typed");
+        PressKey(dlg, VK_RETURN);
+    }});
+    EXPECT_TRUE(editor.Run(host));
+    EXPECT_FALSE(driver.CancelledAStuckDialog());
+    EXPECT_EQ(doc.GetString(L"Test", L"A", L"-"), L"typed");
 }
 
 TEST_F(ThemeEditorTest, OkOnPagesNeverVisitedStillWritesEveryPage) {

@@ -1,9 +1,13 @@
 // Theme Overrides on a real host window.
 #include "themes/overrides_page.h"
 
+#include "ids_themes.h"
+#include "store/language_strings.h"
 #include "store/scale.h"
+#include "ui/text_extent.h"
 
 #include "check_pages_host.h"
+#include "pseudo_locale.h"
 #include "screen_capture.h"
 
 using namespace cv2;
@@ -183,6 +187,29 @@ TEST_F(ThemeOverridesPageTest, CheckBoxesAre234UnitsWideOneUnderAnother) {
     EXPECT_GE(list.top, boxes[2].bottom);
 }
 
+// The pseudo-locale's text of the third box is longer than the box is wide, as a translation
+// may be.
+void TranslateFontsBox(Page& page) {
+    LanguageStrings pseudo(PseudoModulePath().c_str());
+    ASSERT_TRUE(pseudo.HasModule()) << "pseudo-locale module not found";
+    SetWindowTextW(page.Window(Page::Fonts), pseudo.Get(IDS_OVERRIDE_FONTS, L""));
+    page.OnSize(page.Area());
+}
+
+TEST_F(ThemeOverridesPageTest, AFontsBoxTextThatWrapsGrowsTheBoxAndMovesTheListBelowIt) {
+    Page page;
+    PageHostWindow host(page, m_doc);
+    HWND box = page.Window(Page::Fonts);
+    TranslateFontsBox(page);
+    RECT r, list;
+    GetWindowRect(box, &r);
+    GetWindowRect(page.Window(Page::FontList), &list);
+    ASSERT_GT(WindowTextWidth(box), r.right - r.left) << "the text must need a second line";
+    EXPECT_GE(r.bottom - r.top, 2 * LineHeight(box)) << "two lines of text";
+    EXPECT_EQ(r.right - r.left, ScaleX(234));
+    EXPECT_GE(list.top, r.bottom);
+}
+
 class ThemeOverridesPageScreens : public ThemeOverridesPageTest {};
 
 TEST_F(ThemeOverridesPageScreens, CustomFont) {
@@ -192,4 +219,13 @@ TEST_F(ThemeOverridesPageScreens, CustomFont) {
     host.ShowPage();
     EXPECT_FALSE(SaveScreenshot(L"theme_overrides").empty());
     EXPECT_TRUE(ScreenHasContent());
+}
+
+TEST_F(ThemeOverridesPageScreens, TranslatedFontsBoxOnTwoLines) {
+    m_doc.SetString(kSection, L"Custom Font", L"TRUE");
+    Page page;
+    PageHostWindow host(page, m_doc);
+    TranslateFontsBox(page);
+    host.ShowPage();
+    EXPECT_FALSE(SaveScreenshot(L"theme_overrides_translated").empty());
 }

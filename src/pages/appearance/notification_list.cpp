@@ -1,9 +1,10 @@
 #include "pages/appearance/notification_list.h"
 
+#include <unordered_map>
+
 #include "pages/appearance/control_page_keys.h"
 #include "store/config_sections.h"
 #include "store/paths.h"
-#include "themes/theme_transfer.h"
 
 namespace cv2 {
 namespace {
@@ -17,6 +18,21 @@ std::wstring ReadBackName(const std::wstring& section) {
 }
 
 } // namespace
+
+std::vector<std::wstring> CustomNotificationNames(const IniDocument& doc) {
+    // One pass over the section instead of one search per key: the first entry of a key wins,
+    // as it does for a look-up by key.
+    std::unordered_map<std::wstring, std::wstring> byKey;
+    for (const IniDocument::EntryRef& e : doc.GetSectionEntries(config::kCustomNotifications))
+        byKey.emplace(e.first, e.second);
+    std::vector<std::wstring> names;
+    for (size_t i = 0;; ++i) {
+        const auto it = byKey.find(std::to_wstring(i));
+        if (it == byKey.end() || it->second.empty())
+            return names;
+        names.push_back(it->second);
+    }
+}
 
 std::wstring NotifySectionOf(const std::wstring& title) {
     return config::kNotifyPrefix + title;

@@ -19,6 +19,10 @@ struct CustomNotification {
     std::wstring pressedImage;
 };
 
+// The names in section "Custom Notifications": keys "0", "1", ... up to the first one that is
+// missing or empty.
+std::vector<std::wstring> CustomNotificationNames(const IniDocument& doc);
+
 // The section that holds the pictures of a notification titled `title`.
 std::wstring NotifySectionOf(const std::wstring& title);
 

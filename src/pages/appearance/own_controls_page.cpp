@@ -1,7 +1,7 @@
 #include "pages/appearance/own_controls_page.h"
 
+#include "pages/appearance/image_panel.h"
 #include "pages/platform_colors.h"
-#include "themes/image_panel.h"
 #include "ui/shared_fonts.h"
 
 namespace cv2 {

@@ -7,9 +7,9 @@
 
 #include <string>
 
+#include "pages/appearance/image_panel.h"
 #include "pages/setting_table.h"
 #include "store/strings.h"
-#include "themes/image_panel.h"
 #include "ui/pickers/font_record.h"
 #include "ui/settings_page.h"
 

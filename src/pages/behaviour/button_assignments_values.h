@@ -53,9 +53,9 @@ enum class StoredKind { Empty, BuiltIn, Other };
 // value or a program path), read as the C runtime reads a leading number.
 StoredKind ClassifyStored(const wchar_t* stored, int& row);
 
-// What a combo's text is stored as: "1" (no action) for an empty text; the number of the built-in
-// action whose label it equals (any case, labels in row order); else the value of the plug-in
-// action of that name; else the text itself.
+// What a combo's text is stored as: the number of the built-in action whose label it equals (any
+// case, labels in row order); else the value of the plug-in action of that name; else the text
+// itself. An empty text is stored as it stands, empty.
 std::wstring StoredValueOf(const std::wstring& text, const std::vector<std::wstring>& labels,
                            const std::function<const wchar_t*(const wchar_t*)>& pluginValue);
 

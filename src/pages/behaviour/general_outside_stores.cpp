@@ -5,8 +5,8 @@
 
 #include <new>
 
-#include "app/exe_folder.h"
 #include "pages/behaviour/general_startup.h"
+#include "platform/exe_folder.h"
 #include "platform/file_access.h"
 #include "platform/shell.h"
 #include "platform/user_registry.h"

@@ -4,7 +4,7 @@
 #include "store/paths.h"
 #include "store/scale.h"
 #include "store/screen.h"
-#include "themes/image_panel.h"
+#include "pages/appearance/image_panel.h"
 #include "themes/preview/preview_device.h"
 #include "themes/preview/scene_builder.h"
 #include "ui/child_controls.h"

@@ -66,6 +66,73 @@ IconBitmap ParseBitmap(const ByteView& image) {
     return bmp;
 }
 
+// An image stored as a PNG file: its size and bits per pixel from the header chunk, which must
+// come first. Colour types: 0 grey, 2 red-green-blue, 3 palette, 4 grey-alpha, 6
+// red-green-blue-alpha.
+struct PngImage {
+    bool ok = false;
+    int width = 0;
+    unsigned bitCount = 0;
+};
+
+constexpr unsigned char kPngSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+constexpr size_t kPngHeaderEnd = 8 + 8 + 13; // signature, chunk length and type, header data
+
+uint32_t BigEndian32(const ByteView& bytes, uint64_t at) {
+    return (bytes.U8(at) << 24) | (bytes.U8(at + 1) << 16) | (bytes.U8(at + 2) << 8) |
+           bytes.U8(at + 3);
+}
+
+bool IsPng(const ByteView& image) {
+    for (size_t i = 0; i < sizeof kPngSignature; ++i) {
+        if (!image.Has(i, 1) || image.U8(i) != kPngSignature[i])
+            return false;
+    }
+    return true;
+}
+
+unsigned PngChannels(uint32_t colourType) {
+    switch (colourType) {
+    case 0:
+    case 3:
+        return 1;
+    case 2:
+        return 3;
+    case 4:
+        return 2;
+    case 6:
+        return 4;
+    }
+    return 0;
+}
+
+PngImage ParsePng(const ByteView& image) {
+    PngImage png;
+    const uint32_t kHeaderType = ('I' << 24) | ('H' << 16) | ('D' << 8) | 'R';
+    if (!IsPng(image) || !image.Has(0, kPngHeaderEnd) || BigEndian32(image, 8) != 13 ||
+        BigEndian32(image, 12) != kHeaderType)
+        return png;
+    const uint32_t width = BigEndian32(image, 16);
+    const uint32_t height = BigEndian32(image, 20);
+    const unsigned channels = PngChannels(image.U8(25));
+    if (channels == 0 || !IsAcceptableSize(width, height))
+        return png;
+    png.width = static_cast<int>(width);
+    png.bitCount = image.U8(24) * channels;
+    png.ok = true;
+    return png;
+}
+
+// What the choice looks at of one image, bitmap or PNG.
+IconCandidate Candidate(const ByteView& image) {
+    if (IsPng(image)) {
+        const PngImage png = ParsePng(image);
+        return {png.width, static_cast<int>(png.bitCount), png.ok};
+    }
+    const IconBitmap bmp = ParseBitmap(image);
+    return {bmp.width, static_cast<int>(bmp.bitCount), bmp.ok};
+}
+
 // The bytes of directory entry `index`'s image; empty when they do not lie inside the file.
 ByteView EntryImage(const ByteView& file, size_t index) {
     const uint64_t entry = kDirectoryHeader + index * kDirectoryEntry;
@@ -157,18 +224,22 @@ size_t ChooseIconImage(const std::vector<IconCandidate>& images, int wantedSize)
     return choice;
 }
 
-PixelImage ReadIcon(const unsigned char* data, size_t size, int wantedSize) {
+PixelImage ReadIcon(const unsigned char* data, size_t size, int wantedSize,
+                    const PngDecoder& decodePng) {
     const ByteView file(data, size);
     const size_t count = file.U16(4);
     if (count == 0 || !file.Has(kDirectoryHeader, count * kDirectoryEntry))
         return {};
     std::vector<IconCandidate> candidates(count);
-    for (size_t i = 0; i < count; ++i) {
-        const IconBitmap bmp = ParseBitmap(EntryImage(file, i));
-        candidates[i] = {bmp.width, static_cast<int>(bmp.bitCount), bmp.ok};
+    for (size_t i = 0; i < count; ++i)
+        candidates[i] = Candidate(EntryImage(file, i));
+    const ByteView image = EntryImage(file, ChooseIconImage(candidates, wantedSize));
+    if (IsPng(image)) {
+        if (!decodePng || !ParsePng(image).ok)
+            return {};
+        return decodePng(image.Data(), image.Size());
     }
-    const IconBitmap chosen =
-        ParseBitmap(EntryImage(file, ChooseIconImage(candidates, wantedSize)));
+    const IconBitmap chosen = ParseBitmap(image);
     if (!chosen.ok)
         return {};
     return Decode(chosen);

@@ -58,13 +58,13 @@ PixelImage ReadTargaFile(const std::wstring& path) {
     return ReadTarga(bytes.data(), bytes.size());
 }
 
-PixelImage ReadIconFile(const std::wstring& path, int defaultSize) {
+PixelImage ReadIconFile(const std::wstring& path, int defaultSize, const PngDecoder& decodePng) {
     int size = 0;
     const std::wstring file = SplitIconSize(path, defaultSize, size);
     Bytes bytes;
     if (!ReadWholeFile(file, bytes))
         return {};
-    return ReadIcon(bytes.data(), bytes.size(), size);
+    return ReadIcon(bytes.data(), bytes.size(), size, decodePng);
 }
 
 } // namespace cv2

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "ui/image/icon_reader.h"
 #include "ui/image/pixel_image.h"
 
 namespace cv2 {
@@ -26,7 +27,9 @@ std::wstring SplitIconSize(const std::wstring& path, int defaultSize, int& size)
 PixelImage ReadTargaFile(const std::wstring& path);
 
 // The image of the icon file at `path` (which may carry a size suffix) best fitting the wanted
-// size; `defaultSize` (the system's icon width) when the path gives none.
-PixelImage ReadIconFile(const std::wstring& path, int defaultSize);
+// size; `defaultSize` (the system's icon width) when the path gives none. A PNG-coded image goes
+// to `decodePng`.
+PixelImage ReadIconFile(const std::wstring& path, int defaultSize,
+                        const PngDecoder& decodePng = nullptr);
 
 } // namespace cv2

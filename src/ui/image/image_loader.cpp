@@ -16,13 +16,24 @@ DWORD CALLBACK ReadChunk(LPSTR buffer, DWORD bufferMax, LPARAM lParam) {
     return got;
 }
 
-} // namespace
+// Bytes in memory handed out in chunks, as the decoder reads a file.
+struct MemoryFile {
+    const unsigned char* data;
+    size_t size;
+    size_t at = 0;
+};
 
-PixelImage DecodeWithPlatform(const std::wstring& path, int maxWidth, int maxHeight) {
-    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                              FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return {};
+DWORD CALLBACK ReadMemoryChunk(LPSTR buffer, DWORD bufferMax, LPARAM lParam) {
+    auto* file = reinterpret_cast<MemoryFile*>(lParam);
+    const size_t count = std::min<size_t>(bufferMax, file->size - file->at);
+    std::copy_n(file->data + file->at, count, buffer);
+    file->at += count;
+    return static_cast<DWORD>(count);
+}
+
+// Decodes what `read` hands out; larger than maxWidth x maxHeight (when given) it is shrunk to fit
+// while it decodes.
+PixelImage Decode(GETIMAGEDATA read, LPARAM source, int maxWidth = 0, int maxHeight = 0) {
     BYTE chunk[8192];
     HBITMAP bitmap = nullptr;
     DecompressImageInfo info = {};
@@ -31,12 +42,11 @@ PixelImage DecodeWithPlatform(const std::wstring& path, int maxWidth, int maxHei
     info.dwBufferMax = sizeof chunk;
     info.phBM = &bitmap;
     info.iBitDepth = 32;
-    info.lParam = reinterpret_cast<LPARAM>(file);
+    info.lParam = source;
     info.iMaxWidth = maxWidth > 0 ? maxWidth : 0;
     info.iMaxHeight = maxHeight > 0 ? maxHeight : 0;
-    info.pfnGetData = ReadChunk;
+    info.pfnGetData = read;
     const HRESULT hr = DecompressImageIndirect(&info);
-    CloseHandle(file);
     if (FAILED(hr) || !bitmap)
         return {};
     PixelImage pixels = PixelsFromBitmap(bitmap);
@@ -44,10 +54,27 @@ PixelImage DecodeWithPlatform(const std::wstring& path, int maxWidth, int maxHei
     return pixels;
 }
 
+} // namespace
+
+PixelImage DecodeWithPlatform(const std::wstring& path, int maxWidth, int maxHeight) {
+    HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                              FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return {};
+    PixelImage pixels = Decode(ReadChunk, reinterpret_cast<LPARAM>(file), maxWidth, maxHeight);
+    CloseHandle(file);
+    return pixels;
+}
+
+PixelImage DecodeBytesWithPlatform(const unsigned char* data, size_t size) {
+    MemoryFile file{data, size};
+    return Decode(ReadMemoryChunk, reinterpret_cast<LPARAM>(&file));
+}
+
 PixelImage ReadImagePixels(const std::wstring& path) {
     switch (ReaderForPath(path)) {
     case ImageReader::Icon:
-        return ReadIconFile(path, GetSystemMetrics(SM_CXICON));
+        return ReadIconFile(path, GetSystemMetrics(SM_CXICON), DecodeBytesWithPlatform);
     case ImageReader::Targa:
         return ReadTargaFile(path);
     case ImageReader::Platform:

@@ -24,5 +24,7 @@ PixelImage ReadImagePixels(const std::wstring& path, int maxWidth, int maxHeight
 // The picture at `path` decoded by the platform's image decoder, reading the file in chunks;
 // larger than maxWidth x maxHeight (when given) it is shrunk to fit.
 PixelImage DecodeWithPlatform(const std::wstring& path, int maxWidth = 0, int maxHeight = 0);
+// The same for a whole image file held in memory (a PNG-coded image inside an icon file).
+PixelImage DecodeBytesWithPlatform(const unsigned char* data, size_t size);
 
 } // namespace cv2

@@ -78,6 +78,8 @@ icotool -c -b 4 few16.png -b 32 graded16.png -b 8 few32.png -b 32 graded32.png \
 icotool -c -b 4 few32.png -b 32 graded32.png -o icon_large_only.ico
 # A PNG-coded image (as larger icons are stored) beside a bitmap one.
 icotool -c -b 32 graded16.png -r graded48.png -o icon_with_png.ico
+# Only PNG-coded images, as icons made for current desktops hold them.
+icotool -c -r graded16.png -r graded32.png -r graded48.png -o icon_png_only.ico
 # ImageMagick's own icon writer.
 $C graded16.png few32.png graded48.png ICO:icon_magick.ico
 

@@ -1,4 +1,4 @@
-#include "themes/theme_color_table.h"
+#include "platform/theme_color_table.h"
 
 namespace cv2 {
 namespace {

@@ -1,4 +1,4 @@
-#include "themes/image_panel.h"
+#include "pages/appearance/image_panel.h"
 
 #include "ids_editor.h"
 #include "platform/device_colors.h"
@@ -69,19 +69,20 @@ const ControlPlace kTallPlaces[] = {
     {IDC_PANEL_CUSTOM_COLORS, From::Middle, 3, From::Right, -4, 215, 21},
 };
 
-// Landscape and square screens: the rows on the left half, their previews beside them (or,
-// on a page without previews, these rows across the whole width).
+// Landscape and square screens: the rows on the left two thirds, their previews in the third
+// beside them (or, on a page without previews, these rows across the whole width). A path is the
+// longer thing to read, so its box takes the larger share.
 const ControlPlace kWideRows[] = {
-    {IDC_PANEL_FIRST_LABEL, From::Left, 4, From::Middle, -4, 26, 16},
-    {IDC_PANEL_FIRST_PATH, From::Left, 4, From::Middle, -31, 42, 21},
-    {IDC_PANEL_FIRST_BROWSE, From::Middle, -28, From::Middle, -4, 42, 21},
-    {IDC_PANEL_SECOND_LABEL, From::Left, 4, From::Middle, -4, 68, 16},
-    {IDC_PANEL_SECOND_PATH, From::Left, 4, From::Middle, -31, 84, 21},
-    {IDC_PANEL_SECOND_BROWSE, From::Middle, -28, From::Middle, -4, 84, 21},
+    {IDC_PANEL_FIRST_LABEL, From::Left, 4, From::TwoThirds, -4, 26, 16},
+    {IDC_PANEL_FIRST_PATH, From::Left, 4, From::TwoThirds, -31, 42, 21},
+    {IDC_PANEL_FIRST_BROWSE, From::TwoThirds, -28, From::TwoThirds, -4, 42, 21},
+    {IDC_PANEL_SECOND_LABEL, From::Left, 4, From::TwoThirds, -4, 68, 16},
+    {IDC_PANEL_SECOND_PATH, From::Left, 4, From::TwoThirds, -31, 84, 21},
+    {IDC_PANEL_SECOND_BROWSE, From::TwoThirds, -28, From::TwoThirds, -4, 84, 21},
 };
 const ControlPlace kWideOthers[] = {
-    {IDC_PANEL_FIRST_PREVIEW, From::Middle, 4, From::Right, -4, 26, 37},
-    {IDC_PANEL_SECOND_PREVIEW, From::Middle, 4, From::Right, -4, 68, 37},
+    {IDC_PANEL_FIRST_PREVIEW, From::TwoThirds, 4, From::Right, -4, 26, 37},
+    {IDC_PANEL_SECOND_PREVIEW, From::TwoThirds, 4, From::Right, -4, 68, 37},
     {IDC_PANEL_LIST, From::Left, 4, From::Middle, -4, 112, 100},
     {IDC_PANEL_SETTINGS, From::Left, 4, From::Middle, -4, 138, 23},
     {IDC_PANEL_CUSTOM_COLORS, From::Middle, 4, From::Right, -4, 112, 21},
@@ -155,9 +156,9 @@ void ImagePanel::PlaceWideRows() {
     const bool besidePreviews = (style & WS_VISIBLE) != 0;
     for (ControlPlace place : kWideRows) {
         if (!besidePreviews) {
-            // Every edge at the middle moves to the right edge.
-            place.leftFrom = place.leftFrom == From::Middle ? From::Right : place.leftFrom;
-            place.rightFrom = place.rightFrom == From::Middle ? From::Right : place.rightFrom;
+            // Every edge at the previews' side moves to the right edge.
+            place.leftFrom = place.leftFrom == From::TwoThirds ? From::Right : place.leftFrom;
+            place.rightFrom = place.rightFrom == From::TwoThirds ? From::Right : place.rightFrom;
         }
         PlaceControls(m_dialog, &place, 1);
     }

@@ -1,4 +1,4 @@
-// Private window messages registered by name at start-up.
+// The theme editor's private window messages, registered by name at start-up.
 #pragma once
 
 namespace cv2 {

@@ -1,4 +1,4 @@
-#include "app/app_messages.h"
+#include "themes/theme_messages.h"
 
 #include <windows.h>
 

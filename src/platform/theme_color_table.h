@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "ui/pickers/color_value.h"
+#include "store/color_ref.h"
 
 namespace cv2 {
 

@@ -1,4 +1,4 @@
-#include "app/exe_folder.h"
+#include "platform/exe_folder.h"
 
 #include <windows.h>
 

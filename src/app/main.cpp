@@ -7,7 +7,7 @@
 #include "store/language_strings.h"
 
 namespace cv2 {
-int RunEditor(HINSTANCE instance);
+int RunEditor(HINSTANCE instance, const std::wstring& commandLine);
 }
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR commandLine, int) {
@@ -18,5 +18,5 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR commandLine, int) {
         cv2::RunThemeSwitch(cv2::ExeFolder(), args, cv2::NotifyBarFromTaskbar);
         return 0;
     }
-    return cv2::RunEditor(instance);
+    return cv2::RunEditor(instance, args);
 }

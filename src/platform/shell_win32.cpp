@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "platform/device_screen.h"
 #include "store/scale.h"
 
 namespace cv2 {
@@ -20,9 +21,7 @@ const UINT kFirstMenuButton = 0xE000; // ids of the buttons that open the menu's
 const UINT_PTR kDoneSubclass = 1;
 
 RECT WorkArea() {
-    RECT wa;
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &wa, 0);
-    return wa;
+    return ScreenWorkArea();
 }
 
 // The full-screen dialog's close box is its Done button: it reports IDOK.
@@ -222,11 +221,36 @@ BOOL SHCreateMenuBar(SHMENUBARINFO* info) {
     return TRUE;
 }
 
+void FitMenuBarsToWorkArea() {
+    const RECT wa = WorkArea();
+    const RECT bar = {wa.left, wa.bottom - MenuBarHeight(), wa.right, wa.bottom};
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND owner, LPARAM barRect) -> BOOL {
+            HWND container = static_cast<HWND>(GetPropW(owner, kOwnerProp));
+            if (!IsWindow(container))
+                return TRUE;
+            const RECT& r = *reinterpret_cast<const RECT*>(barRect);
+            const RECT wa = WorkArea();
+            SetWindowPos(container, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+            SetWindowPos(owner, nullptr, wa.left, wa.top, wa.right - wa.left, r.top - wa.top,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&bar));
+}
+
 HWND SHFindMenuBar(HWND owner) {
     if (!owner)
         return nullptr;
     HWND container = static_cast<HWND>(GetPropW(owner, kOwnerProp));
     return IsWindow(container) ? GetWindow(container, GW_CHILD) : nullptr;
+}
+
+HMENU MenuOfMenuBar(HWND menuBar) {
+    HWND container = menuBar ? GetParent(menuBar) : nullptr;
+    return container ? static_cast<HMENU>(GetPropW(container, L"CV2Menu")) : nullptr;
 }
 
 DWORD SHRecognizeGesture(SHRGINFO* info) {

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/device_screen.h"
 #include "store/scale.h"
 #include "store/screen.h"
 
@@ -66,7 +67,7 @@ bool FontRecord::Create(const wchar_t* newFace, int newSize, uint32_t newStyle, 
     clearType = newClearType ? 1 : 0;
 
     HDC measureDc = dc ? dc : GetDC(nullptr);
-    const int dpiY = GetDeviceCaps(measureDc, LOGPIXELSY);
+    const int dpiY = FontDpiY(measureDc);
     if (!dc)
         ReleaseDC(nullptr, measureDc);
 

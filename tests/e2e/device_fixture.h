@@ -30,8 +30,9 @@ class DeviceFixture : public ::testing::Test {
     // Runs the program with these arguments and waits for it to exit; returns its exit code.
     DWORD RunEditor(const std::wstring& arguments, DWORD timeoutMs = 30000);
 
-    // Starts the interactive editor and waits for its main window ("CorvaneSettings").
-    HWND StartEditor();
+    // Starts the interactive editor with these arguments and waits for its main window
+    // ("CorvaneSettings").
+    HWND StartEditor(const std::wstring& arguments = L"");
     // Waits for the editor started by StartEditor to end; false on time-out (it is then killed).
     bool WaitEditorExit(DWORD timeoutMs = 20000);
     bool EditorRunning() const;

@@ -31,6 +31,8 @@
 #define IDC_INFO_HIRES 2499
 // Export only: copy the theme's files into its folder (ten times its text's number).
 #define IDC_INFO_COPY_FILES 12510
+// Export only: write the theme as one package (ten times its text's number).
+#define IDC_INFO_PACKAGE 12600
 
 // Import Theme page (ten times its title's and its second button's numbers).
 #define IDC_IMPORT_THEME 1360

@@ -9,9 +9,12 @@ WINE="$ROOT/tools/wine-run.sh"
 WINESERVER="" CONVERT="" IMPORT="" XVFB=""
 
 # Debian packages the build and the tests need.
-# The 32-bit C compiler builds a plug-in the 64-bit editor must refuse to load.
+# The 32-bit C compiler builds a plug-in the 64-bit editor must refuse to load. zlib packs and
+# unpacks theme packages (the mingw form for the program, the native one for the core's tests);
+# zip, unzip and Python's zipfile make and check packages in the tests.
 PACKAGES="cmake make g++ googletest g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 wine64 \
-gcc-mingw-w64-i686-posix xvfb x11-utils fonts-wine imagemagick icoutils clang libclang-rt-14-dev libinih-dev"
+gcc-mingw-w64-i686-posix xvfb x11-utils fonts-wine imagemagick icoutils clang libclang-rt-14-dev libinih-dev \
+libz-mingw-w64-dev zlib1g-dev zip unzip python3"
 
 log() { printf '==> %s\n' "$*" >&2; }
 
@@ -57,6 +60,13 @@ resolve_tools() {
     done
     [ -f /usr/src/googletest/CMakeLists.txt ] || missing+=("/usr/src/googletest (package googletest)")
     [ -d /usr/share/wine/fonts ] || missing+=("/usr/share/wine/fonts (package fonts-wine)")
+    [ -f /usr/x86_64-w64-mingw32/lib/libz.a ] || missing+=("mingw zlib (package libz-mingw-w64-dev)")
+    [ -f /usr/include/zlib.h ] || missing+=("zlib.h (package zlib1g-dev)")
+    # Debian's own Python: another one may come first on PATH.
+    [ -x /usr/bin/python3 ] || missing+=("/usr/bin/python3 (package python3)")
+    for t in zip unzip; do
+        [ -x "/usr/bin/$t" ] || missing+=("/usr/bin/$t (package $t)")
+    done
     if [ ${#missing[@]} -gt 0 ]; then
         log "missing after installing the packages: ${missing[*]}"
         return 1

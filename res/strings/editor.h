@@ -14,3 +14,6 @@ CV_STRING(IDS_THEME_INFO_TITLE, 1250, L"Theme Information")
 // Export: copying the theme's pictures and sounds into its folder.
 CV_STRING(IDS_EXPORT_COPY_FILES, 1251, L"Copy pictures and sounds into the theme's folder")
 CV_STRING(IDS_EXPORT_COPY_FAILED, 1252, L"These files could not be copied into %s:\r\n")
+// Export as one theme package instead of a folder.
+CV_STRING(IDS_EXPORT_PACKAGE, 1260, L"Save as a package (.zip)")
+CV_STRING(IDS_EXPORT_PACKAGE_FAILED, 1261, L"The package could not be written:\r\n%s")

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <dirent.h>
+#include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -136,36 +137,107 @@ bool ReadWholeFile(const std::wstring& path, Bytes& out) {
     return ok;
 }
 
-bool WriteFileReplacing(const std::wstring& path, const Bytes& bytes, WriteFailure* failure) {
-    WriteFailure local;
-    WriteFailure& f = failure ? *failure : local;
-    f = WriteFailure{};
-    const std::string target = HostPath(path);
-    const std::string temp = target + ".tmp~";
-    const auto lastError = [] { return static_cast<unsigned long>(errno); };
-    FILE* file = nullptr;
-    if (!RunWriteStep(
-            WriteStep::CreateTemporary, f,
-            [&] { return (file = std::fopen(temp.c_str(), "wb")) != nullptr; }, lastError))
-        return false; // nothing of ours to clean up: whatever is at the temporary path stays
-    bool ok = RunWriteStep(
-        WriteStep::Write, f,
+InputFile::~InputFile() {
+    if (m_handle >= 0)
+        ::close(static_cast<int>(m_handle));
+}
+
+bool InputFile::Open(const std::wstring& path) {
+    if (m_handle >= 0)
+        ::close(static_cast<int>(m_handle));
+    m_size = 0;
+    const int fd = ::open(HostPath(path).c_str(), O_RDONLY | O_CLOEXEC);
+    m_handle = fd;
+    struct stat st;
+    if (fd < 0 || ::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode))
+        return false;
+    m_size = static_cast<uint64_t>(st.st_size);
+    return true;
+}
+
+bool InputFile::ReadAt(uint64_t offset, unsigned char* out, size_t count) {
+    if (m_handle < 0 || offset > m_size || count > m_size - offset)
+        return false;
+    while (count > 0) {
+        const ssize_t got =
+            ::pread(static_cast<int>(m_handle), out, count, static_cast<off_t>(offset));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            return false;
+        out += got;
+        offset += static_cast<uint64_t>(got);
+        count -= static_cast<size_t>(got);
+    }
+    return true;
+}
+
+OutputFile::~OutputFile() {
+    if (m_handle >= 0)
+        ::close(static_cast<int>(m_handle));
+}
+
+bool OutputFile::Create(const std::wstring& path, bool replaceExisting) {
+    m_failure = WriteFailure{};
+    const std::string host = HostPath(path);
+    const int mode = O_WRONLY | O_CREAT | O_CLOEXEC | (replaceExisting ? O_TRUNC : O_EXCL);
+    return RunWriteStep(
+        WriteStep::CreateTemporary, m_failure,
+        [&] { return (m_handle = ::open(host.c_str(), mode, 0666)) >= 0; }, LastFileError);
+}
+
+bool OutputFile::Write(const unsigned char* data, size_t count) {
+    return RunWriteStep(
+        WriteStep::Write, m_failure,
         [&] {
-            return bytes.empty() ||
-                   std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+            while (count > 0 && m_handle >= 0) {
+                const ssize_t put = ::write(static_cast<int>(m_handle), data, count);
+                if (put < 0 && errno == EINTR)
+                    continue;
+                if (put <= 0)
+                    return false;
+                data += put;
+                count -= static_cast<size_t>(put);
+            }
+            return m_handle >= 0;
         },
-        lastError);
+        LastFileError);
+}
+
+bool OutputFile::Close(bool flush) {
+    if (m_handle < 0)
+        return false;
+    // Every write() has already handed its bytes to the system, as fflush would; like the
+    // earlier stdio form, no fsync is asked for.
+    (void)flush;
+    bool ok = RunWriteStep(
+        WriteStep::Flush, m_failure, [] { return true; }, LastFileError);
+    const bool closed = ::close(static_cast<int>(m_handle)) == 0; // closed whatever happened
+    m_handle = -1;
     ok = ok && RunWriteStep(
-                   WriteStep::Flush, f, [&] { return std::fflush(file) == 0; }, lastError);
-    const bool closed = std::fclose(file) == 0; // closed whatever happened before
-    ok = ok && RunWriteStep(
-                   WriteStep::Close, f, [&] { return closed; }, lastError);
-    ok = ok && RunWriteStep(
-                   WriteStep::Replace, f,
-                   [&] { return std::rename(temp.c_str(), target.c_str()) == 0; }, lastError);
-    if (!ok)
-        std::remove(temp.c_str());
+                   WriteStep::Close, m_failure, [&] { return closed; }, LastFileError);
     return ok;
+}
+
+bool ReplaceFileWith(const std::wstring& temp, const std::wstring& path) {
+    return std::rename(HostPath(temp).c_str(), HostPath(path).c_str()) == 0;
+}
+
+unsigned long LastFileError() {
+    return static_cast<unsigned long>(errno);
+}
+
+bool MakeFolder(const std::wstring& path) {
+    return ::mkdir(HostPath(path).c_str(), 0777) == 0;
+}
+
+// rename() would put a folder over an empty one; a taken name is refused first.
+bool MoveFolder(const std::wstring& from, const std::wstring& to) {
+    struct stat st;
+    const std::string target = HostPath(to);
+    if (::lstat(target.c_str(), &st) == 0)
+        return false;
+    return std::rename(HostPath(from).c_str(), target.c_str()) == 0;
 }
 
 bool FileExists(const std::wstring& path) {
@@ -173,8 +245,12 @@ bool FileExists(const std::wstring& path) {
     return ::stat(HostPath(path).c_str(), &st) == 0 && S_ISREG(st.st_mode);
 }
 
-bool RemoveFile(const std::wstring& path) { return ::unlink(HostPath(path).c_str()) == 0; }
+bool RemoveFile(const std::wstring& path) {
+    return ::unlink(HostPath(path).c_str()) == 0;
+}
 
-const char* TextLineEnd() { return "\n"; }
+const char* TextLineEnd() {
+    return "\n";
+}
 
 } // namespace cv2

@@ -59,10 +59,101 @@ bool ReadWholeFile(const std::wstring& path, Bytes& out) {
 
 namespace {
 
-unsigned long LastError() { return GetLastError(); }
+HANDLE HandleOf(intptr_t handle) {
+    return reinterpret_cast<HANDLE>(handle);
+}
+
+} // namespace
+
+InputFile::~InputFile() {
+    if (m_handle != -1)
+        CloseHandle(HandleOf(m_handle));
+}
+
+bool InputFile::Open(const std::wstring& path) {
+    if (m_handle != -1)
+        CloseHandle(HandleOf(m_handle));
+    m_size = 0;
+    HANDLE h = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                           FILE_ATTRIBUTE_NORMAL | FILE_FLAG_RANDOM_ACCESS, nullptr);
+    m_handle = reinterpret_cast<intptr_t>(h);
+    LARGE_INTEGER size;
+    if (h == INVALID_HANDLE_VALUE || !GetFileSizeEx(h, &size) || size.QuadPart < 0)
+        return false;
+    m_size = static_cast<uint64_t>(size.QuadPart);
+    return true;
+}
+
+bool InputFile::ReadAt(uint64_t offset, unsigned char* out, size_t count) {
+    if (m_handle == -1 || offset > m_size || count > m_size - offset)
+        return false;
+    while (count > 0) {
+        OVERLAPPED at = {};
+        at.Offset = static_cast<DWORD>(offset);
+        at.OffsetHigh = static_cast<DWORD>(offset >> 32);
+        const DWORD piece = count > 0x40000000u ? 0x40000000u : static_cast<DWORD>(count);
+        DWORD got = 0;
+        if (!ReadFile(HandleOf(m_handle), out, piece, &got, &at) || got == 0)
+            return false;
+        out += got;
+        offset += got;
+        count -= got;
+    }
+    return true;
+}
+
+OutputFile::~OutputFile() {
+    if (m_handle != -1)
+        CloseHandle(HandleOf(m_handle));
+}
+
+bool OutputFile::Create(const std::wstring& path, bool replaceExisting) {
+    m_failure = WriteFailure{};
+    return RunWriteStep(
+        WriteStep::CreateTemporary, m_failure,
+        [&] {
+            HANDLE h = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr,
+                                   replaceExisting ? CREATE_ALWAYS : CREATE_NEW,
+                                   FILE_ATTRIBUTE_NORMAL, nullptr);
+            m_handle = reinterpret_cast<intptr_t>(h);
+            return h != INVALID_HANDLE_VALUE;
+        },
+        LastFileError);
+}
+
+bool OutputFile::Write(const unsigned char* data, size_t count) {
+    return RunWriteStep(
+        WriteStep::Write, m_failure,
+        [&] {
+            while (count > 0 && m_handle != -1) {
+                const DWORD piece = count > 0x40000000u ? 0x40000000u : static_cast<DWORD>(count);
+                DWORD put = 0;
+                if (!WriteFile(HandleOf(m_handle), data, piece, &put, nullptr) || put != piece)
+                    return false;
+                data += put;
+                count -= put;
+            }
+            return m_handle != -1;
+        },
+        LastFileError);
+}
+
+bool OutputFile::Close(bool flush) {
+    if (m_handle == -1)
+        return false;
+    HANDLE h = HandleOf(m_handle);
+    bool ok = RunWriteStep(
+        WriteStep::Flush, m_failure, [&] { return !flush || FlushFileBuffers(h) != 0; },
+        LastFileError);
+    const bool closed = CloseHandle(h) != 0; // closed whatever happened before
+    m_handle = -1;
+    ok = ok && RunWriteStep(
+                   WriteStep::Close, m_failure, [&] { return closed; }, LastFileError);
+    return ok;
+}
 
 // A read-only file is not replaced: Windows refuses that, and Wine would not.
-bool ReplaceWithTemporary(const std::wstring& temp, const std::wstring& path) {
+bool ReplaceFileWith(const std::wstring& temp, const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY)) {
         SetLastError(ERROR_ACCESS_DENIED);
@@ -71,43 +162,18 @@ bool ReplaceWithTemporary(const std::wstring& temp, const std::wstring& path) {
     return MoveFileExW(temp.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
 }
 
-} // namespace
+unsigned long LastFileError() {
+    return GetLastError();
+}
 
-bool WriteFileReplacing(const std::wstring& path, const Bytes& bytes, WriteFailure* failure) {
-    WriteFailure local;
-    WriteFailure& f = failure ? *failure : local;
-    f = WriteFailure{};
-    const std::wstring temp = path + L".tmp~";
-    HANDLE h = INVALID_HANDLE_VALUE;
-    if (!RunWriteStep(
-            WriteStep::CreateTemporary, f,
-            [&] {
-                h = CreateFileW(temp.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                FILE_ATTRIBUTE_NORMAL, nullptr);
-                return h != INVALID_HANDLE_VALUE;
-            },
-            LastError))
-        return false; // nothing of ours to clean up: whatever is at the temporary path stays
-    bool ok = RunWriteStep(
-        WriteStep::Write, f,
-        [&] {
-            DWORD written = 0;
-            return bytes.empty() || (WriteFile(h, bytes.data(), static_cast<DWORD>(bytes.size()),
-                                               &written, nullptr) &&
-                                     written == bytes.size());
-        },
-        LastError);
-    ok = ok && RunWriteStep(
-                   WriteStep::Flush, f, [&] { return FlushFileBuffers(h) != 0; }, LastError);
-    const bool closed = CloseHandle(h) != 0; // closed whatever happened before
-    ok = ok && RunWriteStep(
-                   WriteStep::Close, f, [&] { return closed; }, LastError);
-    ok = ok &&
-         RunWriteStep(
-             WriteStep::Replace, f, [&] { return ReplaceWithTemporary(temp, path); }, LastError);
-    if (!ok)
-        DeleteFileW(temp.c_str());
-    return ok;
+bool MakeFolder(const std::wstring& path) {
+    return CreateDirectoryW(path.c_str(), nullptr) != 0;
+}
+
+bool MoveFolder(const std::wstring& from, const std::wstring& to) {
+    if (GetFileAttributesW(to.c_str()) != INVALID_FILE_ATTRIBUTES)
+        return false;
+    return MoveFileExW(from.c_str(), to.c_str(), 0) != 0;
 }
 
 bool FileExists(const std::wstring& path) {
@@ -115,7 +181,9 @@ bool FileExists(const std::wstring& path) {
     return attr != INVALID_FILE_ATTRIBUTES && !(attr & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-bool RemoveFile(const std::wstring& path) { return DeleteFileW(path.c_str()) != 0; }
+bool RemoveFile(const std::wstring& path) {
+    return DeleteFileW(path.c_str()) != 0;
+}
 
 std::vector<std::wstring> ListSubfolders(const std::wstring& folder) {
     std::vector<std::wstring> names;
@@ -156,6 +224,8 @@ uint32_t FileAttributes(const std::wstring& path) {
     return GetFileAttributesW(path.c_str());
 }
 
-const char* TextLineEnd() { return "\r\n"; }
+const char* TextLineEnd() {
+    return "\r\n";
+}
 
 } // namespace cv2

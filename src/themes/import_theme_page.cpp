@@ -14,6 +14,7 @@
 #include "themes/theme_files.h"
 #include "themes/theme_info_dialog.h"
 #include "themes/theme_messages.h"
+#include "themes/theme_package.h"
 #include "themes/theme_transfer.h"
 #include "ui/child_controls.h"
 #include "ui/control_layout.h"
@@ -101,6 +102,10 @@ void ImportThemePage::Export() {
     std::unique_ptr<IniDocument> theme(AskThemeInfo(info, m_host));
     if (!theme || !Doc())
         return;
+    if (info.package) {
+        ExportAsPackage(*theme, info);
+        return;
+    }
     std::vector<std::wstring> failed;
     {
         WaitCursor wait;
@@ -115,6 +120,23 @@ void ImportThemePage::Export() {
     }
     if (!failed.empty())
         TellCopyFailed(m_host, FolderOf(theme->Path()), failed);
+}
+
+// The package is the only file written: no folder and no .skin beside it.
+void ImportThemePage::ExportAsPackage(IniDocument& theme, const ThemeInfo& info) {
+    PackageExport result;
+    {
+        WaitCursor wait;
+        SendMessageW(m_host, ExportThemeMessage(), 0, reinterpret_cast<LPARAM>(&theme));
+        result = ExportPackage(theme, *Doc(), PackageFolderName(info.name, theme.Path()),
+                               ThemePathKeys());
+    }
+    const std::wstring package = PackagePathsFor(theme.Path()).package;
+    if (!result.written)
+        MessageBoxW(m_host, FormatText(Localized(IDS_EXPORT_PACKAGE_FAILED), {package}).c_str(),
+                    Localized(IDS_EXPORT_THEME), MB_OK | MB_ICONEXCLAMATION);
+    else if (!result.unreadable.empty())
+        TellCopyFailed(m_host, package, result.unreadable);
 }
 
 } // namespace cv2

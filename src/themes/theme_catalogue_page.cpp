@@ -12,6 +12,8 @@
 #include "themes/older_theme_device.h"
 #include "themes/theme_editor.h"
 #include "themes/theme_files.h"
+#include "themes/theme_package.h"
+#include "ui/file_browser.h"
 #include "ui/child_controls.h"
 #include "ui/control_layout.h"
 #include "ui/wait_cursor.h"
@@ -26,20 +28,28 @@ const ChildControl kControls[ThemeCataloguePage::DetailsButton] = {
      IDC_THEMES_LIST},
     {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_CUSTOMIZE, IDC_THEMES_CUSTOMIZE},
     {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_DELETE, IDC_THEMES_DELETE},
+    {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_INSTALL, IDC_THEMES_INSTALL},
     {L"EDIT", WS_BORDER | ES_MULTILINE | ES_READONLY, 0, StringId(0), IDC_THEMES_DETAILS},
 };
 const ChildControl kDetailsButton = {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0, IDS_THEME_DETAILS,
                                      IDC_THEMES_DETAILS_BUTTON};
 
 // Places on the three screen shapes: the list with the details beside it (landscape) or below
-// it (portrait); on a square screen a "Details" button stands for the box.
+// it (portrait); on a square screen a "Details" button stands for the box. "Install" ends the
+// row of buttons where there is room for a third (portrait), stands under the details
+// (landscape), or starts a second row (square).
 const ControlPlace kWidePlaces[] = {
     {IDC_THEMES_LIST, From::Left, 0, From::Left, 162, 3, 141},
-    {IDC_THEMES_DETAILS, From::Left, 165, From::Left, 320, 3, 165},
+    {IDC_THEMES_DETAILS, From::Left, 165, From::Left, 320, 3, 141},
+    {IDC_THEMES_INSTALL, From::Left, 165, From::Left, 240, 147, 20},
 };
 const ControlPlace kNarrowPlaces[] = {
     {IDC_THEMES_LIST, From::Left, 0, From::Left, 240, 3, 141},
     {IDC_THEMES_DETAILS, From::Left, 0, From::Left, 240, 169, 79},
+    {IDC_THEMES_INSTALL, From::Left, 159, From::Left, 234, 147, 20},
+};
+const ControlPlace kSquarePlaces[] = {
+    {IDC_THEMES_INSTALL, From::Left, 5, From::Left, 80, 170, 20},
 };
 const ControlPlace kButtonPlaces[] = {
     {IDC_THEMES_CUSTOMIZE, From::Left, 5, From::Left, 80, 147, 20},
@@ -82,6 +92,7 @@ void ThemeCataloguePage::Create(HWND host) {
     CreateChildControls(host, kControls, DetailsButton, m_controls);
     SetControlFont(m_controls[Customize], CaptionFont());
     SetControlFont(m_controls[Delete], CaptionFont());
+    SetControlFont(m_controls[Install], CaptionFont());
     EnableWindow(m_controls[Customize], FALSE);
     EnableWindow(m_controls[Delete], FALSE);
     OnSize(Area());
@@ -107,6 +118,8 @@ void ThemeCataloguePage::OnSize(const RECT&) {
         PlaceControls(m_host, Area(), kNarrowPlaces);
     else
         PlaceControls(m_host, Area(), kWidePlaces);
+    if (square)
+        PlaceControls(m_host, Area(), kSquarePlaces);
     if (square && !m_controls[DetailsButton]) {
         CreateChildControls(m_host, &kDetailsButton, 1, &m_controls[DetailsButton]);
         SetControlFont(m_controls[DetailsButton], CaptionFont());
@@ -247,6 +260,7 @@ bool ThemeCataloguePage::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (from == m_controls[DetailsText])
         return true;
     if (from != m_controls[Customize] && from != m_controls[Delete] &&
+        from != m_controls[Install] &&
         (!m_controls[DetailsButton] || from != m_controls[DetailsButton]))
         return false;
     if (code != BN_CLICKED)
@@ -255,6 +269,8 @@ bool ThemeCataloguePage::OnCommand(WPARAM wParam, LPARAM lParam) {
         OpenEditor();
     else if (from == m_controls[Delete])
         DeleteSelected();
+    else if (from == m_controls[Install])
+        InstallPackageFile();
     else
         ShowDetailsBox();
     return true;
@@ -283,6 +299,46 @@ void ThemeCataloguePage::DeleteSelected() {
         RemoveFolderTree(entry->path.substr(0, slash));
     // "Theme File" keeps naming the deleted theme until the next Apply.
     Fill();
+    OnSelectionChange();
+}
+
+// The package is unpacked and checked before anything changes among the themes; the themes it
+// put in place are listed and the first selected, but nothing is applied until Apply.
+void ThemeCataloguePage::InstallPackageFile() {
+    FileBrowser browser(false, false);
+    browser.SetFilter(Localized(IDS_PACKAGE_FILTER), true, L"packages");
+    if (!Doc() || !browser.Run(m_host))
+        return;
+    InstallResult result;
+    {
+        WaitCursor wait;
+        result = InstallPackage(
+            browser.result, m_programFolder + L"Themes\\", [&](const std::wstring& name) {
+                return MessageBoxW(m_host, Localized(IDS_INSTALL_REPLACE), name.c_str(),
+                                   MB_YESNO | MB_ICONQUESTION) == IDYES;
+            });
+    }
+    if (!result.installed.empty()) {
+        Fill();
+        SelectThemeIn(result.installed.front());
+    }
+    if (result.problem != InstallProblem::None)
+        MessageBoxW(m_host, InstallMessage(result).c_str(), Localized(IDS_INSTALL_TITLE),
+                    MB_OK | MB_ICONEXCLAMATION);
+}
+
+void ThemeCataloguePage::SelectThemeIn(const std::wstring& folder) {
+    HWND list = m_controls[List];
+    const LRESULT count = Send(list, LB_GETCOUNT);
+    for (LRESULT row = 0; row < count; ++row) {
+        const auto* entry = reinterpret_cast<const ThemeEntry*>(
+            Send(list, LB_GETITEMDATA, static_cast<WPARAM>(row)));
+        if (entry && entry->path.size() > folder.size() &&
+            EqualsNoCase(entry->path.substr(0, folder.size()).c_str(), folder.c_str())) {
+            Send(list, LB_SETCURSEL, static_cast<WPARAM>(row));
+            break;
+        }
+    }
     OnSelectionChange();
 }
 

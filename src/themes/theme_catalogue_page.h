@@ -1,6 +1,7 @@
 // "My Theme", the first page of the main window: every theme on the device in a sorted list,
-// with the details of the selected one, deletion of a theme's folder, the theme editor on the
-// custom theme, and on Apply the chosen theme stored in config.ini.
+// with the details of the selected one, deletion of a theme's folder, installation of theme
+// packages, the theme editor on the custom theme, and on Apply the chosen theme stored in
+// config.ini.
 #pragma once
 
 #include <windows.h>
@@ -36,7 +37,7 @@ class ThemeCataloguePage : public SettingsPage {
     void Reload();
     void OnHostShown() override;
 
-    enum Control { List, Customize, Delete, DetailsText, DetailsButton, Count };
+    enum Control { List, Customize, Delete, Install, DetailsText, DetailsButton, Count };
     HWND Window(Control c) const { return m_controls[c]; }
 
   private:
@@ -50,6 +51,9 @@ class ThemeCataloguePage : public SettingsPage {
     void ShowDetails(const ThemeEntry* entry);
     void OpenEditor();
     void DeleteSelected();
+    void InstallPackageFile();
+    // Selects the first row whose theme file lies in `folder` (which ends in a backslash).
+    void SelectThemeIn(const std::wstring& folder);
     void ShowDetailsBox() const;
 
     std::wstring m_programFolder;

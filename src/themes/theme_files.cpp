@@ -34,33 +34,56 @@ std::wstring NumberedName(const std::wstring& name, int n) {
     return stem + L" (" + std::to_wstring(n) + L")" + ext;
 }
 
-// The name under which `bytes` stand in `folder`: the file's own name when that is free or
-// already holds the same bytes, else the first free numbered name. Empty after too many tries.
-std::wstring FreeName(const std::wstring& folder, const std::wstring& name, const Bytes& bytes) {
+// The name under which `bytes` stand in `target`: the file's own name when that is free or
+// already holds the same bytes (`already` is then set), else the first free numbered name.
+// Empty after too many tries.
+std::wstring FreeName(const ThemeFileTarget& target, const std::wstring& name, const Bytes& bytes,
+                      bool& already) {
     constexpr int kMostTries = 1000;
     for (int n = 1; n <= kMostTries; ++n) {
         const std::wstring candidate = n == 1 ? name : NumberedName(name, n);
-        const std::wstring path = folder + candidate;
-        if (FileAttributes(path) == kNoFileAttributes)
-            return candidate;
-        Bytes existing;
-        if (FileExists(path) && ReadWholeFile(path, existing) && existing == bytes)
+        already = false;
+        if (!target.Taken(candidate, bytes, already) || already)
             return candidate;
     }
     return std::wstring();
 }
 
-// Copies `source` into `folder` under a free name (see FreeName) and returns that name; empty
-// when the file could not be read or written.
-std::wstring CopyInto(const std::wstring& folder, const std::wstring& source) {
+// Copies `source` into `target` under a free name (see FreeName) and returns that name; empty
+// when the file could not be read or stored.
+std::wstring CopyInto(ThemeFileTarget& target, const std::wstring& source) {
     Bytes bytes;
     if (!ReadWholeFile(source, bytes))
         return std::wstring();
-    const std::wstring name = FreeName(folder, NameOf(source), bytes);
-    if (name.empty() || FileExists(folder + name))
+    bool already = false;
+    const std::wstring name = FreeName(target, NameOf(source), bytes, already);
+    if (name.empty() || already)
         return name; // no room, or the same bytes already stand there
-    return WriteFileReplacing(folder + name, bytes) ? name : std::wstring();
+    return target.Put(name, source, bytes) ? name : std::wstring();
 }
+
+// A theme's folder on disk.
+class FolderTarget : public ThemeFileTarget {
+  public:
+    explicit FolderTarget(const std::wstring& folder) : m_folder(FolderWithSlash(folder)) {}
+    bool Holds(const std::wstring& source) const override {
+        return StartsWithNoCase(source, m_folder);
+    }
+    bool Taken(const std::wstring& name, const Bytes& bytes, bool& same) const override {
+        const std::wstring path = m_folder + name;
+        if (FileAttributes(path) == kNoFileAttributes)
+            return false;
+        Bytes existing;
+        same = FileExists(path) && ReadWholeFile(path, existing) && existing == bytes;
+        return true;
+    }
+    bool Put(const std::wstring& name, const std::wstring&, const Bytes& bytes) override {
+        return WriteFileReplacing(m_folder + name, bytes);
+    }
+
+  private:
+    std::wstring m_folder;
+};
 
 } // namespace
 
@@ -107,14 +130,13 @@ std::wstring MissingFilesText(const std::vector<ThemeFileValue>& missing,
 }
 
 std::vector<std::wstring> CopyThemeFiles(IniDocument& theme, const std::wstring& sourceFolder,
-                                         const std::wstring& targetFolder,
+                                         ThemeFileTarget& target,
                                          const std::vector<PathKey>& keys) {
-    const std::wstring target = FolderWithSlash(targetFolder);
     std::unordered_map<std::wstring, std::wstring> copied; // folded source path -> name
     std::vector<std::wstring> failed;
     for (const ThemeFileValue& v : FileValues(theme, keys)) {
         const std::wstring source = ResolveThemeFile(v.value, sourceFolder);
-        if (StartsWithNoCase(source, target) || !FileExists(source))
+        if (target.Holds(source) || !FileExists(source))
             continue;
         const auto done = copied.find(Folded(source.c_str()));
         std::wstring name = done == copied.end() ? CopyInto(target, source) : done->second;
@@ -128,6 +150,13 @@ std::vector<std::wstring> CopyThemeFiles(IniDocument& theme, const std::wstring&
         theme.SetString(v.section.c_str(), v.key.c_str(), name.c_str());
     }
     return failed;
+}
+
+std::vector<std::wstring> CopyThemeFiles(IniDocument& theme, const std::wstring& sourceFolder,
+                                         const std::wstring& targetFolder,
+                                         const std::vector<PathKey>& keys) {
+    FolderTarget target(targetFolder);
+    return CopyThemeFiles(theme, sourceFolder, target, keys);
 }
 
 } // namespace cv2

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "pages/setting_table.h"
+#include "platform/file_access.h"
 #include "store/ini_document.h"
 
 namespace cv2 {
@@ -43,11 +44,28 @@ constexpr size_t kMissingFilesShown = 5;
 std::wstring MissingFilesText(const std::vector<ThemeFileValue>& missing,
                               const std::wstring& heading);
 
+// Where CopyThemeFiles puts the files it brings in: a theme's folder, or a package being made.
+class ThemeFileTarget {
+  public:
+    virtual ~ThemeFileTarget() = default;
+    // True when the theme already finds `source` there, so it needs no copy.
+    virtual bool Holds(const std::wstring& source) const = 0;
+    // True when `name` is taken there; `same` then says whether it holds exactly `bytes`.
+    virtual bool Taken(const std::wstring& name, const Bytes& bytes, bool& same) const = 0;
+    // Stores `bytes`, read from `source`, under `name`; false when that fails.
+    virtual bool Put(const std::wstring& name, const std::wstring& source, const Bytes& bytes) = 0;
+};
+
 // Copies every file that `theme` names, found from `sourceFolder` the way the bar finds it, into
-// `targetFolder` when it exists and lies outside that folder, and makes the value the copy's bare
-// name. A name already taken there by different content gets a number ("name (2).png"); a file
-// named twice is copied once. Values of missing files stay as they are. Returns the files that
-// could not be copied (their values stay as they were). Each copy is written whole or not at all.
+// `target` unless it is already there, and makes the value the copy's bare name. A name already
+// taken there by different content gets a number ("name (2).png"); a file named twice is copied
+// once. Values of missing files stay as they are. Returns the files that could not be copied
+// (their values stay as they were).
+std::vector<std::wstring> CopyThemeFiles(IniDocument& theme, const std::wstring& sourceFolder,
+                                         ThemeFileTarget& target, const std::vector<PathKey>& keys);
+
+// The same into `targetFolder` when it exists: files already inside it are left where they are,
+// and each copy is written whole or not at all.
 std::vector<std::wstring> CopyThemeFiles(IniDocument& theme, const std::wstring& sourceFolder,
                                          const std::wstring& targetFolder,
                                          const std::vector<PathKey>& keys);

@@ -5,6 +5,7 @@
 #include "ids_editor.h"
 #include "store/config_sections.h"
 #include "store/strings.h"
+#include "themes/theme_package.h"
 #include "ui/control_layout.h"
 #include "ui/dialog_layout.h"
 #include "ui/file_browser.h"
@@ -20,6 +21,7 @@ const ControlText kTexts[] = {
     {IDC_INFO_HIRES, IDS_THEME_HIRES},
     {IDCANCEL, IDS_CANCEL},
     {IDC_INFO_COPY_FILES, IDS_EXPORT_COPY_FILES},
+    {IDC_INFO_PACKAGE, IDS_EXPORT_PACKAGE},
 };
 
 // Each label beside its box; one table serves every screen shape.
@@ -34,8 +36,9 @@ const ControlPlace kPlaces[] = {
     {IDC_INFO_PATH, From::Left, 90, From::Right, -31, 79, 21},
     {IDC_INFO_BROWSE, From::Right, -28, From::Right, -4, 79, 21},
     {IDC_INFO_HIRES, From::Left, 4, From::Right, -4, 106, 21},
-    {IDC_INFO_COPY_FILES, From::Left, 4, From::Right, -4, 129, 32},
-    {IDCANCEL, From::Right, -84, From::Right, -4, 167, 23},
+    {IDC_INFO_COPY_FILES, From::Left, 4, From::Right, -4, 127, 32},
+    {IDC_INFO_PACKAGE, From::Left, 4, From::Right, -4, 160, 21},
+    {IDCANCEL, From::Right, -84, From::Right, -4, 184, 23},
 };
 
 // A text field and the record's buffer it fills, with the buffer's size.
@@ -63,6 +66,18 @@ void Fill(HWND dlg, ThemeInfo& info) {
     }
     CheckDlgButton(dlg, IDC_INFO_HIRES, info.hiRes ? BST_CHECKED : BST_UNCHECKED);
     CheckDlgButton(dlg, IDC_INFO_COPY_FILES, info.copyFiles ? BST_CHECKED : BST_UNCHECKED);
+    CheckDlgButton(dlg, IDC_INFO_PACKAGE, info.package ? BST_CHECKED : BST_UNCHECKED);
+}
+
+// A package always carries the theme's files: while it is ticked, the copy box shows ticked and
+// cannot be changed; unticked, it shows what the user had chosen.
+void FollowPackageBox(HWND dlg, bool& copyChosen) {
+    const bool package = IsDlgButtonChecked(dlg, IDC_INFO_PACKAGE) == BST_CHECKED;
+    HWND copy = GetDlgItem(dlg, IDC_INFO_COPY_FILES);
+    if (package && IsWindowEnabled(copy))
+        copyChosen = IsDlgButtonChecked(dlg, IDC_INFO_COPY_FILES) == BST_CHECKED;
+    CheckDlgButton(dlg, IDC_INFO_COPY_FILES, package || copyChosen ? BST_CHECKED : BST_UNCHECKED);
+    EnableWindow(copy, !package);
 }
 
 void Take(HWND dlg, ThemeInfo& info) {
@@ -70,6 +85,7 @@ void Take(HWND dlg, ThemeInfo& info) {
         GetDlgItemTextW(dlg, f.id, f.text, f.chars);
     info.hiRes = IsDlgButtonChecked(dlg, IDC_INFO_HIRES) == BST_CHECKED;
     info.copyFiles = IsDlgButtonChecked(dlg, IDC_INFO_COPY_FILES) == BST_CHECKED;
+    info.package = IsDlgButtonChecked(dlg, IDC_INFO_PACKAGE) == BST_CHECKED;
 }
 
 void BrowseSkin(HWND dlg) {
@@ -92,6 +108,8 @@ INT_PTR OnInit(HWND dlg, ThemeInfo& info) {
     SetControlTexts(dlg, kTexts, sizeof kTexts / sizeof kTexts[0]);
     SetDialogFonts(dlg, nullptr, 0);
     Fill(dlg, info);
+    bool copyChosen = info.copyFiles;
+    FollowPackageBox(dlg, copyChosen);
     PlaceAll(dlg);
     return TRUE;
 }
@@ -122,6 +140,9 @@ INT_PTR CALLBACK InfoProc(HWND dlg, UINT msg, WPARAM wParam, LPARAM lParam) {
         case IDC_INFO_BROWSE:
             BrowseSkin(dlg);
             return TRUE;
+        case IDC_INFO_PACKAGE:
+            FollowPackageBox(dlg, info->copyFiles);
+            return TRUE;
         }
         return FALSE;
     }
@@ -140,7 +161,8 @@ IniDocument* AskThemeInfo(ThemeInfo& info, HWND parent) {
     IniDocument* doc = new (std::nothrow) IniDocument();
     if (!doc)
         return nullptr;
-    doc->Load(info.path); // an absent file leaves the document empty, bound to the path
+    // An absent file leaves the document empty, bound to the path.
+    doc->Load(info.package ? PackagePathsFor(info.path).skin : std::wstring(info.path));
     doc->SetString(config::kSkinInfo, L"Author", info.author);
     doc->SetString(config::kSkinInfo, L"AuthorEmail", info.email);
     doc->SetString(config::kSkinInfo, L"Name", info.name);

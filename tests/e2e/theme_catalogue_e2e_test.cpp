@@ -1,5 +1,6 @@
 // The My Theme page in the real editor, over a device folder holding a named theme, a theme with
-// an empty name, an older theme, a .skin of random bytes and a theme in an extra theme folder.
+// an empty name, an older theme, a .skin of random bytes and a theme in an extra theme folder;
+// theme packages installed through it and exported from the theme editor.
 #include <windows.h>
 
 #include <string>
@@ -8,7 +9,9 @@
 #include "device_fixture.h"
 #include "ids_editor.h"
 #include "ids_themes.h"
+#include "ids_ui.h"
 #include "platform/file_access.h"
+#include "zip_builder.h"
 
 namespace cv2test {
 namespace {
@@ -204,8 +207,7 @@ class ThemeHealthE2E : public ThemeCatalogueE2E {
         WriteText(L"Themes\\Holes\\holes.skin",
                   "[Skin Info]\nName=Holes\nAuthor=Bob\nAuthorEmail=bob@example.org\n"
                   "HiRes=TRUE\nNotes=Two gone\n[Topbar]\nPortrait=gone.bmp\nLandscape=" +
-                      Narrow(File(L"Nowhere\\away.png")) +
-                      "\n[Menubar]\nNormal=present.bmp\n");
+                      Narrow(File(L"Nowhere\\away.png")) + "\n[Menubar]\nNormal=present.bmp\n");
     }
 
     // The visible dialog of the editor's process other than `except`, waiting for it.
@@ -222,6 +224,39 @@ class ThemeHealthE2E : public ThemeCatalogueE2E {
             return false;
         });
         return found;
+    }
+
+    // Starts the editor on a custom theme whose pictures lie in Art1\ and Art2\ (one name in
+    // both), opens the theme editor and its Export Theme dialog, names the theme "Shared" at
+    // Out\shared.skin and ticks `box`, then presses OK and waits for `written`. Both windows
+    // are closed again, without saving, before it returns.
+    void ExportSharedTheme(int box, const wchar_t* written) {
+        Folder(L"Art1");
+        Folder(L"Art2");
+        Folder(L"Out");
+        WriteText(L"Art1\\bar.bmp", "BM-one");
+        WriteText(L"Art2\\bar.bmp", "BM-two");
+        WriteText(L"Art1\\button.bmp", "BM-button");
+        const std::string art1 = Narrow(File(L"Art1\\")), art2 = Narrow(File(L"Art2\\"));
+        Start("[Settings]\nTheme File=" + Narrow(File(L"config.ini")) + "\n[Topbar]\nPortrait=" +
+              art1 + "bar.bmp\nLandscape=" + art2 + "bar.bmp\n[Menubar]\nNormal=" + art1 +
+              "button.bmp\nPressed=" + art1 + "button.bmp\n");
+        ASSERT_TRUE(WaitFor([&] { return IsWindowEnabled(ShownControl(IDC_THEMES_CUSTOMIZE)); }));
+        PostMessageW(ShownControl(IDC_THEMES_CUSTOMIZE), BM_CLICK, 0, 0);
+        HWND editor = Dialog(nullptr);
+        ASSERT_TRUE(editor);
+        PostMessageW(GetDlgItem(editor, IDC_EXPORT_THEME), BM_CLICK, 0, 0);
+        HWND info = OtherDialog(editor);
+        ASSERT_TRUE(info) << "Export Theme opened no dialog";
+        SetDlgItemTextW(info, IDC_INFO_NAME, L"Shared");
+        SetDlgItemTextW(info, IDC_INFO_PATH, File(L"Out\\shared.skin").c_str());
+        SendDlgItemMessageW(info, box, BM_CLICK, 0, 0);
+        PostMessageW(info, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+        ASSERT_TRUE(WaitFor([&] { return Exists(written); }));
+        PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+        ASSERT_TRUE(WaitFor([&] { return !IsWindow(editor); }));
+        Cancel(true);
+        ASSERT_TRUE(WaitEditorExit());
     }
 };
 
@@ -249,32 +284,7 @@ TEST_F(ThemeHealthE2E, ThemeWithTwoMissingPicturesEndsItsDetailsWithThem) {
 }
 
 TEST_F(ThemeHealthE2E, ExportWithCopiedFilesMakesAFolderThatIsWholeOnItsOwn) {
-    Folder(L"Art1");
-    Folder(L"Art2");
-    Folder(L"Out");
-    WriteText(L"Art1\\bar.bmp", "BM-one");
-    WriteText(L"Art2\\bar.bmp", "BM-two");
-    WriteText(L"Art1\\button.bmp", "BM-button");
-    const std::string art1 = Narrow(File(L"Art1\\")), art2 = Narrow(File(L"Art2\\"));
-    Start("[Settings]\nTheme File=" + Narrow(File(L"config.ini")) + "\n[Topbar]\nPortrait=" +
-          art1 + "bar.bmp\nLandscape=" + art2 + "bar.bmp\n[Menubar]\nNormal=" + art1 +
-          "button.bmp\nPressed=" + art1 + "button.bmp\n");
-    ASSERT_TRUE(WaitFor([&] { return IsWindowEnabled(ShownControl(IDC_THEMES_CUSTOMIZE)); }));
-    PostMessageW(ShownControl(IDC_THEMES_CUSTOMIZE), BM_CLICK, 0, 0);
-    HWND editor = Dialog(nullptr);
-    ASSERT_TRUE(editor);
-    PostMessageW(GetDlgItem(editor, IDC_EXPORT_THEME), BM_CLICK, 0, 0);
-    HWND info = OtherDialog(editor);
-    ASSERT_TRUE(info) << "Export Theme opened no dialog";
-    SetDlgItemTextW(info, IDC_INFO_NAME, L"Shared");
-    SetDlgItemTextW(info, IDC_INFO_PATH, File(L"Out\\shared.skin").c_str());
-    SendDlgItemMessageW(info, IDC_INFO_COPY_FILES, BM_SETCHECK, BST_CHECKED, 0);
-    PostMessageW(info, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-    ASSERT_TRUE(WaitFor([&] { return Exists(L"Out\\shared.skin"); }));
-    PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    ASSERT_TRUE(WaitFor([&] { return !IsWindow(editor); }));
-    Cancel(true);
-    ASSERT_TRUE(WaitEditorExit());
+    ASSERT_NO_FATAL_FAILURE(ExportSharedTheme(IDC_INFO_COPY_FILES, L"Out\\shared.skin"));
 
     const std::string skin = ReadText(L"Out\\shared.skin");
     EXPECT_NE(skin.find("Portrait=bar.bmp"), std::string::npos) << skin;
@@ -290,6 +300,138 @@ TEST_F(ThemeHealthE2E, ExportWithCopiedFilesMakesAFolderThatIsWholeOnItsOwn) {
     SendMessageW(m_main, WM_NULL, 0, 0);
     ASSERT_TRUE(WaitFor([&] { return List() != nullptr; }));
     Select(L"Shared");
+    EXPECT_TRUE(WaitFor([&] { return Details() == L"Author: \r\nE-Mail: \r\nHiRes: No\r\n"; }))
+        << Narrow(Details());
+}
+
+namespace {
+
+BuiltEntry PackedFile(const std::string& name, const std::string& data) {
+    return Entry(name, data, true);
+}
+
+class ThemePackageE2E : public ThemeHealthE2E {
+  protected:
+    // Presses Install and picks `package` in the file browser it opens.
+    void InstallThrough(const std::wstring& package) {
+        ASSERT_TRUE(WaitFor([&] { return ShownControl(IDC_THEMES_INSTALL) != nullptr; }));
+        PostMessageW(ShownControl(IDC_THEMES_INSTALL), BM_CLICK, 0, 0);
+        HWND browser = Dialog(L"Open");
+        ASSERT_TRUE(browser) << "Install opened no file browser";
+        SendMessageW(GetDlgItem(browser, IDC_BROWSE_NAME), WM_SETTEXT, 0,
+                     reinterpret_cast<LPARAM>(package.c_str()));
+        PostMessageW(browser, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+        ASSERT_TRUE(WaitFor([&] { return !IsWindow(browser); })) << "the browser stayed open";
+    }
+    // The text of a message box, its static controls one after another.
+    static std::wstring BoxText(HWND box) {
+        std::wstring text;
+        for (HWND c = GetWindow(box, GW_CHILD); c; c = GetWindow(c, GW_HWNDNEXT)) {
+            wchar_t cls[16] = {}, shown[1024] = {};
+            GetClassNameW(c, cls, 16);
+            if (lstrcmpiW(cls, L"Static") == 0 && GetWindowTextW(c, shown, 1024) > 0)
+                text += shown;
+        }
+        return text;
+    }
+    // Every file below the themes folder, "folder\file", for comparing before and after.
+    std::vector<std::wstring> ThemeFiles(const std::wstring& sub = L"Themes\\") const {
+        std::vector<std::wstring> found;
+        for (const std::wstring& name : cv2::ListFiles(File(sub), L"*"))
+            found.push_back(sub + name + L"=" + std::to_wstring(ReadText(sub + name).size()));
+        for (const std::wstring& name : cv2::ListSubfolders(File(sub)))
+            for (const std::wstring& inner : ThemeFiles(sub + name + L"\\"))
+                found.push_back(inner);
+        return found;
+    }
+};
+
+const char kOceanSkin[] = "[Skin Info]\r\nName=Ocean Deep\r\nAuthor=Cy\r\n[Topbar]\r\n"
+                          "Portrait=waves.bmp\r\n";
+
+} // namespace
+
+TEST_F(ThemePackageE2E, InstalledThemeIsSelectedNotAppliedAndApplyMakesItCurrent) {
+    StartBar();
+    Start();
+    WriteText(L"Ocean Deep.zip", BuildZip({PackedFile("Ocean/ocean.skin", kOceanSkin),
+                                           PackedFile("Ocean/waves.bmp", "BM-waves")}));
+    const std::string before = ReadText(L"config.ini");
+    InstallThrough(File(L"Ocean Deep.zip"));
+    EXPECT_TRUE(WaitFor([&] { return SelectedText() == L"Ocean Deep"; })) << Narrow(SelectedText());
+    EXPECT_EQ(ReadText(L"Themes\\Ocean\\waves.bmp"), "BM-waves");
+    EXPECT_EQ(ReadText(L"config.ini"), before) << "installing applies nothing";
+    EXPECT_EQ(BarLog(), "");
+    EXPECT_TRUE(WaitFor([&] { return Details() == L"Author: Cy\r\nE-Mail: \r\nHiRes: No\r\n"; }))
+        << Narrow(Details());
+    Apply();
+    EXPECT_NE(SectionText("Settings")
+                  .find(Lines("Theme File=" + Narrow(File(L"Themes\\Ocean\\ocean.skin")) + "\n")),
+              std::string::npos)
+        << SectionText("Settings");
+    EXPECT_EQ(BarLog(), "child CVResetConfig 242 0\n");
+}
+
+TEST_F(ThemePackageE2E, ReplaceAnsweredNoChangesNothing) {
+    Start();
+    WriteText(L"named.zip", BuildZip({PackedFile("Named/named.skin", kOceanSkin)}));
+    const std::vector<std::wstring> before = ThemeFiles();
+    const std::vector<std::wstring> listed = Listed();
+    InstallThrough(File(L"named.zip"));
+    HWND question = Dialog(L"Named");
+    ASSERT_TRUE(question) << "no question before replacing the theme";
+    EXPECT_EQ(BoxText(question), L"Replace the theme that is already installed?");
+    PostMessageW(question, WM_COMMAND, MAKEWPARAM(IDNO, BN_CLICKED), 0);
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(question); }));
+    SendMessageW(m_main, WM_NULL, 0, 0);
+    EXPECT_EQ(ThemeFiles(), before);
+    EXPECT_EQ(Listed(), listed);
+}
+
+TEST_F(ThemePackageE2E, ReplaceAnsweredYesPutsThePackagedThemeInPlace) {
+    Start();
+    WriteText(L"named.zip", BuildZip({PackedFile("Named/ocean.skin", kOceanSkin)}));
+    InstallThrough(File(L"named.zip"));
+    HWND question = Dialog(L"Named");
+    ASSERT_TRUE(question) << "no question before replacing the theme";
+    PostMessageW(question, WM_COMMAND, MAKEWPARAM(IDYES, BN_CLICKED), 0);
+    EXPECT_TRUE(WaitFor([&] { return SelectedText() == L"Ocean Deep"; })) << Narrow(SelectedText());
+    EXPECT_FALSE(Exists(L"Themes\\Named\\named.skin"));
+    EXPECT_EQ(ReadText(L"Themes\\Named\\ocean.skin"), kOceanSkin);
+}
+
+TEST_F(ThemePackageE2E, HostilePackageIsRefusedWithItsReasonAndWritesNothing) {
+    Start();
+    WriteText(L"slip.zip", BuildZip({PackedFile("Evil/evil.skin", kOceanSkin),
+                                     PackedFile("Evil/../../../slipped.txt", "x")}));
+    const std::vector<std::wstring> before = ThemeFiles();
+    InstallThrough(File(L"slip.zip"));
+    HWND box = Dialog(L"Install Theme");
+    ASSERT_TRUE(box) << "no message";
+    EXPECT_EQ(
+        BoxText(box),
+        L"The package names a file outside its folder (\"..\"):\r\nEvil/../../../slipped.txt");
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+    ASSERT_TRUE(WaitFor([&] { return !IsWindow(box); }));
+    EXPECT_EQ(ThemeFiles(), before);
+    EXPECT_FALSE(Exists(L"slipped.txt"));
+}
+
+TEST_F(ThemePackageE2E, ExportedPackageInstallsOnAFreshDeviceWithNothingMissing) {
+    ASSERT_NO_FATAL_FAILURE(ExportSharedTheme(IDC_INFO_PACKAGE, L"Out\\shared.zip"));
+    EXPECT_FALSE(Exists(L"Out\\shared.skin")) << "the package is the only file written";
+
+    // A fresh device: no themes, none of the theme's originals, a new config.ini.
+    cv2::RemoveFolderTree(File(L"Themes"));
+    cv2::RemoveFolderTree(File(L"Art1"));
+    cv2::RemoveFolderTree(File(L"Art2"));
+    WriteText(L"config.ini", "");
+    ASSERT_TRUE(StartEditor());
+    SendMessageW(m_main, WM_NULL, 0, 0);
+    ASSERT_TRUE(WaitFor([&] { return List() != nullptr; }));
+    InstallThrough(File(L"Out\\shared.zip"));
+    EXPECT_TRUE(WaitFor([&] { return SelectedText() == L"Shared"; })) << Narrow(SelectedText());
+    EXPECT_EQ(ReadText(L"Themes\\Shared\\bar (2).bmp"), "BM-two");
     EXPECT_TRUE(WaitFor([&] { return Details() == L"Author: \r\nE-Mail: \r\nHiRes: No\r\n"; }))
         << Narrow(Details());
 }

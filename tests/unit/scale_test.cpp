@@ -4,13 +4,21 @@
 
 using namespace cv2;
 
-TEST(Scale, IdentityAt96Dpi) { EXPECT_EQ(ScaleBy(26, 96), 26); }
+TEST(Scale, IdentityAt96Dpi) {
+    EXPECT_EQ(ScaleBy(26, 96), 26);
+}
 
-TEST(Scale, DoublesAt192Dpi) { EXPECT_EQ(ScaleBy(26, 192), 52); }
+TEST(Scale, DoublesAt192Dpi) {
+    EXPECT_EQ(ScaleBy(26, 192), 52);
+}
 
-TEST(Scale, RoundsAt128Dpi) { EXPECT_EQ(ScaleBy(26, 128), 35); }
+TEST(Scale, RoundsAt128Dpi) {
+    EXPECT_EQ(ScaleBy(26, 128), 35);
+}
 
-TEST(Scale, NegativeValuesTruncateTowardZero) { EXPECT_EQ(ScaleBy(-1, 96), 0); }
+TEST(Scale, NegativeValuesTruncateTowardZero) {
+    EXPECT_EQ(ScaleBy(-1, 96), 0);
+}
 
 TEST(Scale, UsesVerticalDensityForScaleAndHorizontalForScaleX) {
     const int oldX = g_dpiX, oldY = g_dpiY;

@@ -9,7 +9,9 @@ using namespace cv2;
 
 namespace {
 int g_notified = 0;
-void CountNotify() { ++g_notified; }
+void CountNotify() {
+    ++g_notified;
+}
 } // namespace
 
 TEST(ThemeSwitch, RecognisedAnywhereInTheCommandLine) {
@@ -20,7 +22,8 @@ TEST(ThemeSwitch, RecognisedAnywhereInTheCommandLine) {
 }
 
 TEST(ThemeSwitch, ValueIsTakenFromTheNinthCharacter) {
-    EXPECT_EQ(ThemeSwitchPath(L"\\dev\\", L"--theme=Themes\\X\\X.skin"), L"\\dev\\Themes\\X\\X.skin");
+    EXPECT_EQ(ThemeSwitchPath(L"\\dev\\", L"--theme=Themes\\X\\X.skin"),
+              L"\\dev\\Themes\\X\\X.skin");
     EXPECT_EQ(ThemeSwitchPath(L"\\dev\\", L"-x --theme=a.skin"), L"\\dev\\me=a.skin");
 }
 

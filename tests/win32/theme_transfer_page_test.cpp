@@ -90,6 +90,51 @@ TEST_F(ThemeInfoTest, BrowseButtonPutsTheChosenSkinFileIntoThePath) {
     EXPECT_EQ(path, dir.File(L"picked.skin"));
 }
 
+TEST_F(ThemeInfoTest, PackageBoxIsUntickedAtFirst) {
+    ThemeInfo info;
+    bool ticked = true;
+    DialogDriver::OnNextDialog(
+        [&](HWND dlg) { ticked = IsDlgButtonChecked(dlg, IDC_INFO_PACKAGE) == BST_CHECKED; },
+        IDCANCEL);
+    AskThemeInfo(info, host);
+    EXPECT_FALSE(ticked);
+}
+
+TEST_F(ThemeInfoTest, TickedPackageBoxTicksAndLocksTheCopyBoxUntilItIsUnticked) {
+    ThemeInfo info;
+    bool lockedTicked = false, freedAsBefore = false;
+    DialogDriver::OnNextDialog(
+        [&](HWND dlg) {
+            HWND copy = GetDlgItem(dlg, IDC_INFO_COPY_FILES);
+            cv2test::Tick(dlg, IDC_INFO_PACKAGE);
+            lockedTicked = IsDlgButtonChecked(dlg, IDC_INFO_COPY_FILES) == BST_CHECKED &&
+                           !IsWindowEnabled(copy);
+            cv2test::Tick(dlg, IDC_INFO_PACKAGE);
+            freedAsBefore = IsDlgButtonChecked(dlg, IDC_INFO_COPY_FILES) == BST_UNCHECKED &&
+                            IsWindowEnabled(copy);
+        },
+        IDCANCEL);
+    AskThemeInfo(info, host);
+    EXPECT_TRUE(lockedTicked);
+    EXPECT_TRUE(freedAsBefore);
+}
+
+TEST_F(ThemeInfoTest, PackageEnteredAsAZipPathStandsForItsSkinFile) {
+    dir.Write(L"blue.zip", "PK not a theme");
+    ThemeInfo info;
+    DialogDriver::OnNextDialog(
+        [&](HWND dlg) {
+            FillInfo(dlg, dir.File(L"blue.zip"));
+            cv2test::Tick(dlg, IDC_INFO_PACKAGE);
+        },
+        IDOK);
+    std::unique_ptr<IniDocument> doc(AskThemeInfo(info, host));
+    ASSERT_TRUE(doc);
+    EXPECT_TRUE(info.package);
+    EXPECT_EQ(doc->Path(), dir.File(L"blue.skin"));
+    EXPECT_EQ(doc->Sections().size(), 1u) << "the package's bytes are not read as a theme";
+}
+
 namespace {
 
 class ImportThemePageTest : public cv2test::PickerHostTest {
@@ -275,4 +320,23 @@ TEST_F(ImportThemePageTest, ExportThatCannotCopyAPictureSaysSoAndStillWritesTheW
         << "a file that was not copied keeps its path";
     EXPECT_EQ(written.GetString(L"Skin Info", L"Name", L""), L"Blue Glass");
     EXPECT_FALSE(cv2::FileExists(dir.File(L"out\\bubble.png")));
+}
+
+TEST_F(ImportThemePageTest, ExportAsAPackageWritesThePackageAndNothingElse) {
+    dir.Write(L"bar.png", "png");
+    CreateDirectoryW(dir.File(L"out").c_str(), nullptr);
+    RunEditor(
+        [&](HWND dlg) {
+            TypeInto(dlg, 3001, dir.File(L"bar.png"));
+            DialogDriver::OnNextDialog(
+                [&](HWND info) {
+                    FillInfo(info, dir.File(L"out\\blue.skin"));
+                    cv2test::Tick(info, IDC_INFO_PACKAGE);
+                },
+                IDOK);
+            DialogDriver::Click(dlg, IDC_EXPORT_THEME);
+        },
+        IDCANCEL);
+    EXPECT_EQ(ListFiles(dir.File(L"out"), L"*"), std::vector<std::wstring>{L"blue.zip"});
+    EXPECT_TRUE(ListSubfolders(dir.File(L"out")).empty());
 }

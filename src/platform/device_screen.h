@@ -24,7 +24,8 @@ DesktopFacts Desktop();
 void SetDesktopForTests(const DesktopFacts* facts);
 
 // Opens the window that shows `screen` (caption `title`, minimise and close), centred on the
-// desktop's work area, and answers every screen question for it from now on. The window is
+// desktop's work area, and answers every screen question for it from now on. Dialogs smaller
+// than the screen, message boxes among them, come up centred on it. The window is
 // shown with the first window that lives in it (HostInDeviceScreen). False when it cannot be
 // made; the real screen is then used.
 bool OpenDeviceScreen(const DeviceScreen& screen, const wchar_t* title);

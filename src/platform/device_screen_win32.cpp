@@ -20,6 +20,7 @@ struct ShownScreen {
     POINT origin = {}; // the client area's top-left corner in screen coordinates
 };
 ShownScreen g_shown;
+HHOOK g_centring = nullptr;
 bool g_testDesktop = false;
 DesktopFacts g_desktop = {};
 
@@ -109,6 +110,32 @@ LRESULT CALLBACK FrameProc(HWND hwnd, UINT msg, WPARAM wParam, LPARAM lParam) {
     return DefWindowProcW(hwnd, msg, wParam, lParam);
 }
 
+// Message boxes and other dialogs smaller than the screen come up in the middle of the device
+// screen, wherever its window stands, instead of in the middle of the desktop. Full-screen
+// dialogs are already in place.
+void CentreInScreen(HWND hwnd) {
+    wchar_t className[16] = {};
+    GetClassNameW(hwnd, className, 16);
+    if (lstrcmpW(className, L"#32770") != 0 || GetPropW(hwnd, L"CV2Centred") ||
+        GetAncestor(hwnd, GA_ROOTOWNER) != g_shown.frame)
+        return;
+    SetPropW(hwnd, L"CV2Centred", hwnd);
+    RECT r;
+    GetWindowRect(hwnd, &r);
+    const int width = r.right - r.left, height = r.bottom - r.top;
+    if (width >= g_shown.screen->width)
+        return;
+    const int x = g_shown.origin.x + (g_shown.screen->width - width) / 2;
+    const int y = g_shown.origin.y + (g_shown.screen->height - height) / 2;
+    SetWindowPos(hwnd, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+LRESULT CALLBACK CentringHook(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HCBT_ACTIVATE && g_shown.frame)
+        CentreInScreen(reinterpret_cast<HWND>(wParam));
+    return CallNextHookEx(g_centring, code, wParam, lParam);
+}
+
 bool RegisterFrameClass(HINSTANCE instance) {
     WNDCLASSW wc = {};
     if (GetClassInfoW(instance, kFrameClass, &wc))
@@ -179,6 +206,7 @@ bool OpenDeviceScreen(const DeviceScreen& screen, const wchar_t* title) {
     g_shown.frame = frame;
     g_shown.origin = ClientOrigin(frame);
     UseDensities(screen);
+    g_centring = SetWindowsHookExW(WH_CBT, CentringHook, nullptr, GetCurrentThreadId());
     return true;
 }
 
@@ -212,6 +240,9 @@ void FitWindowsToDeviceScreen() {
 }
 
 void CloseDeviceScreen() {
+    if (g_centring)
+        UnhookWindowsHookEx(g_centring);
+    g_centring = nullptr;
     if (g_shown.frame && IsWindow(g_shown.frame))
         DestroyWindow(g_shown.frame);
     g_shown = ShownScreen();

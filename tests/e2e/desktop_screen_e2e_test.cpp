@@ -65,6 +65,13 @@ class DesktopE2E : public DeviceFixture {
                << expected.left << "," << expected.top << "," << expected.right << ","
                << expected.bottom;
     }
+    // Closes the device screen's window; the question it brings up, or null.
+    HWND CloseDeviceWindow() const {
+        PostMessageW(Frame(), WM_SYSCOMMAND, SC_CLOSE, 0);
+        HWND box = nullptr;
+        WaitFor([&] { return (box = FindWindowW(L"#32770", L"Cancel Confirmation")) != nullptr; });
+        return box;
+    }
     void ShowScreen(UINT command) {
         PostMessageW(m_main, WM_COMMAND, MAKEWPARAM(command, 0), 0);
         SendMessageW(m_main, WM_NULL, 0, 0);
@@ -133,13 +140,24 @@ TEST_F(DesktopE2E, ThemeEditorLiesInsideTheWindow) {
 
 TEST_F(DesktopE2E, ClosingTheWindowAsksToCancel) {
     ASSERT_TRUE(StartEditor());
-    PostMessageW(Frame(), WM_SYSCOMMAND, SC_CLOSE, 0);
-    HWND box = nullptr;
-    ASSERT_TRUE(WaitFor([&] {
-        return (box = FindWindowW(L"#32770", L"Cancel Confirmation")) != nullptr;
-    })) << "no cancel confirmation";
+    HWND box = CloseDeviceWindow();
+    ASSERT_TRUE(box) << "no cancel confirmation";
     PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDYES, BN_CLICKED), 0);
     EXPECT_TRUE(WaitEditorExit());
+}
+
+TEST_F(DesktopE2E, CancelQuestionIsCentredOnTheMovedScreen) {
+    ASSERT_TRUE(StartEditor());
+    SetWindowPos(Frame(), nullptr, 40, 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    ASSERT_TRUE(WaitFor([&] { return Client().top < 100; }));
+    HWND box = CloseDeviceWindow();
+    ASSERT_TRUE(box) << "no cancel confirmation";
+    const RECT screen = Client();
+    RECT question;
+    GetWindowRect(box, &question);
+    EXPECT_NEAR((question.left + question.right) / 2, (screen.left + screen.right) / 2, 1);
+    EXPECT_NEAR((question.top + question.bottom) / 2, (screen.top + screen.bottom) / 2, 1);
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDNO, BN_CLICKED), 0);
 }
 
 // The main window and the theme editor on the desktop at two screen choices, for people to
@@ -156,7 +174,11 @@ TEST_F(DesktopE2E, Screenshots) {
         SaveScreenshot(std::wstring(L"desktop-") + screen + L"-theme-editor");
         PostMessageW(editor, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
         ASSERT_TRUE(WaitFor([&] { return !IsWindow(editor); }));
-        Cancel(true);
+        HWND box = CloseDeviceWindow();
+        ASSERT_TRUE(box);
+        Sleep(300);
+        SaveScreenshot(std::wstring(L"desktop-") + screen + L"-cancel");
+        PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDYES, BN_CLICKED), 0);
         ASSERT_TRUE(WaitEditorExit());
     }
 }

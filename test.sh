@@ -51,6 +51,25 @@ run_screens() {
 log "screens on the six device screens"
 run_screens || failed=1
 
+# Layer 5: the real program on a desktop larger than every device screen, with screenshots of
+# the window at two screen choices in build/screens/desktop/.
+run_desktop() {
+    local dir="$BUILD/screens/desktop" shot
+    use_desktop || return 1
+    reset_registry
+    rm -rf "$dir" && mkdir -p "$dir"
+    CV2_SCREENS_DIR="$(winpath "$dir")" CV2_DEVICE_DIR="$(winpath "$BUILD/device")" \
+        CV2_SAMPLES_DIR="$(winpath "$ROOT/samples/device")" \
+        "$WINE" "$BUILD/win/tests/e2e_tests.exe" --gtest_filter='Desktop*' --gtest_brief=1 || return 1
+    for shot in "$dir"/*.bmp; do
+        [ -e "$shot" ] || continue
+        "$CONVERT" "$shot" "${shot%.bmp}.png" && rm -f "$shot"
+    done
+    log "desktop $DESKTOP_SCREEN: $(ls "$dir" | wc -l) screenshots in $dir"
+}
+log "the editor on a $DESKTOP_SCREEN desktop"
+run_desktop || failed=1
+
 if [ "$failed" -ne 0 ]; then
     log "some tests failed"
     exit 1

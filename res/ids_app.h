@@ -8,6 +8,9 @@
 #define IDC_APPLY 40001
 #define IDC_CANCEL_EDITS 40002
 #define IDC_ABOUT 40016
+// The "Screen" submenu on a desktop: one command per device screen, in the screens' order.
+#define IDC_SCREEN_FIRST 40100
+#define IDC_SCREEN_LAST 40105
 
 // About box: templates and controls.
 #define IDD_ABOUT_PORTRAIT 114

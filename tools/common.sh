@@ -174,6 +174,17 @@ use_screen() {
     set_dpi "$2"
 }
 
+# Prepares a desktop screen larger than every device screen (the editor then shows a device
+# screen in a window): X server of that size at 96 dpi.
+DESKTOP_SCREEN="1280x800"
+use_desktop() {
+    [ -n "$WINESERVER" ] || resolve_tools || return 1
+    stop_wine
+    start_xvfb "${1:-$DESKTOP_SCREEN}"
+    ensure_prefix || return 1
+    set_dpi 96
+}
+
 # Tests start from the registry of a new device: nothing of the bar's own key is left over from
 # an earlier run, or from ./run.sh, which shares the prefix.
 reset_registry() { "$WINE" reg delete 'HKCU\Software\Thornlea' /f >/dev/null 2>&1 || true; }

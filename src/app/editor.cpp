@@ -2,14 +2,20 @@
 // its message loop.
 #include <windows.h>
 
+#include <string>
+
+#include "app/desktop_screen.h"
 #include "app/page_list.h"
 #include "app/settings_app.h"
 #include "pages/behaviour/plugins/plugin_registry.h"
 #include "pages/behaviour/top_bar_state.h"
 #include "platform/com.h"
+#include "ids_app.h"
 #include "platform/device_phone.h"
+#include "platform/device_screen.h"
 #include "platform/exe_folder.h"
 #include "store/screen.h"
+#include "store/strings.h"
 #include "ui/icon_grid.h"
 
 namespace cv2 {
@@ -41,9 +47,15 @@ bool MoveFocusByKey(MSG& msg, HWND main) {
     }
 }
 
+// On a desktop larger than every device screen the editor runs in a window showing one.
+void OpenScreen(const std::wstring& commandLine) {
+    if (const DeviceScreen* screen = ChooseDesktopScreen(commandLine))
+        OpenDeviceScreen(*screen, Localized(IDS_APP_TITLE));
+}
+
 } // namespace
 
-int RunEditor(HINSTANCE instance) {
+int RunEditor(HINSTANCE instance, const std::wstring& commandLine) {
     HANDLE mutex = CreateMutexW(nullptr, FALSE, L"CV2Settings_Mutex");
     if (GetLastError() == ERROR_ALREADY_EXISTS) {
         if (HWND first = FindWindowW(SettingsApp::kWindowClass, nullptr))
@@ -51,6 +63,7 @@ int RunEditor(HINSTANCE instance) {
         CloseHandle(mutex);
         return 0;
     }
+    OpenScreen(commandLine);
     ReadScreenDensities();
     InitializeCom();
     RegisterIconGridClass(instance);
@@ -59,6 +72,7 @@ int RunEditor(HINSTANCE instance) {
     SharedPlugins().LoadFromRegistry();
     {
         SettingsApp app(instance, ExeFolder() + L"config.ini", CreateMainPages());
+        HostInDeviceScreen(app.Window(), IDC_CANCEL_EDITS);
         SetForegroundWindow(app.Window());
         MSG msg;
         while (GetMessageW(&msg, nullptr, 0, 0) > 0) {
@@ -72,6 +86,7 @@ int RunEditor(HINSTANCE instance) {
     // The pages are gone: no one holds a plug-in any more.
     SharedPlugins().Release();
     UninitializeCom();
+    CloseDeviceScreen();
     CloseHandle(mutex);
     return 0;
 }

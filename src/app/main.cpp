@@ -9,7 +9,7 @@
 #include "store/language_strings.h"
 
 namespace cv2 {
-int RunEditor(HINSTANCE instance);
+int RunEditor(HINSTANCE instance, const std::wstring& commandLine);
 }
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR commandLine, int) {
@@ -23,5 +23,5 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR commandLine, int) {
     // The theme switch comes first: a command line naming both switches the theme.
     if (cv2::IsPreviewCommand(args))
         return cv2::RunPreviewCommand(cv2::ExeFolder(), args);
-    return cv2::RunEditor(instance);
+    return cv2::RunEditor(instance, args);
 }

@@ -2,9 +2,12 @@
 
 #include "app/about_box.h"
 #include "app/bar_notify.h"
+#include "app/desktop_screen.h"
 #include "app/save_failure.h"
+#include "app/screen_menu.h"
 #include "ids_app.h"
 #include "platform/device_colors.h"
+#include "platform/device_screen.h"
 #include "platform/shell.h"
 #include "store/scale.h"
 #include "store/screen.h"
@@ -23,12 +26,9 @@ const UINT kCtlColorButton = 0x135;
 
 SettingsApp::SettingsApp(HINSTANCE instance, const std::wstring& configPath,
                          const std::vector<SettingsPage*>& pages) {
-    const bool highResolution = IsHighResolution();
     m_config.Load(configPath);
     g_arrowCursor = LoadCursorW(nullptr, IDC_ARROW);
-    m_images = ImageList_LoadImageW(
-        instance, MAKEINTRESOURCEW(highResolution ? IDB_MENUBAR_LARGE : IDB_MENUBAR_SMALL),
-        highResolution ? 32 : 16, 1, RGB(255, 0, 255), IMAGE_BITMAP, LR_CREATEDIBSECTION);
+    LoadMenuBarImages(instance);
     for (SettingsPage* page : pages)
         AddPage(page);
     CreateMainWindow(instance);
@@ -51,6 +51,15 @@ SettingsApp::~SettingsApp() {
     // The page host deletes the pages; the document frees itself.
 }
 
+void SettingsApp::LoadMenuBarImages(HINSTANCE instance) {
+    if (m_images)
+        ImageList_Destroy(m_images);
+    const bool highResolution = IsHighResolution();
+    m_images = ImageList_LoadImageW(
+        instance, MAKEINTRESOURCEW(highResolution ? IDB_MENUBAR_LARGE : IDB_MENUBAR_SMALL),
+        highResolution ? 32 : 16, 1, RGB(255, 0, 255), IMAGE_BITMAP, LR_CREATEDIBSECTION);
+}
+
 void SettingsApp::CreateMainWindow(HINSTANCE instance) {
     WNDCLASSW wc = {};
     wc.style = CS_VREDRAW | CS_HREDRAW | CS_NOCLOSE;
@@ -61,11 +70,11 @@ void SettingsApp::CreateMainWindow(HINSTANCE instance) {
     wc.lpszClassName = kWindowClass;
     RegisterClassW(&wc);
 
-    RECT wa;
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &wa, 0);
+    // On a desktop the window lives in the device screen's window, which owns it.
+    const RECT wa = ScreenWorkArea();
     CreateWindowExW(0, kWindowClass, Localized(IDS_APP_TITLE), WS_POPUP, wa.left, wa.top,
-                    wa.right - wa.left, wa.bottom - wa.top - MenuBarHeight(), nullptr, nullptr,
-                    instance, this);
+                    wa.right - wa.left, wa.bottom - wa.top - MenuBarHeight(), DeviceScreenWindow(),
+                    nullptr, instance, this);
 }
 
 void SettingsApp::CreateMenuBar(HINSTANCE instance) {
@@ -91,6 +100,25 @@ void SettingsApp::CreateMenuBar(HINSTANCE instance) {
         b.fsStyle = BTNS_BUTTON | BTNS_AUTOSIZE;
     }
     SendMessageW(m_menuBar, TB_ADDBUTTONSW, 2, reinterpret_cast<LPARAM>(buttons));
+    AddScreenMenu(m_menuBar);
+}
+
+// The user picked another device screen: the window takes its size and every page is laid out
+// for it, as on a device that rotates; a change of density also remakes the fonts and the menu
+// bar's images.
+void SettingsApp::ShowScreen(const DeviceScreen& screen) {
+    const bool newDensity = screen.dpi != g_dpiY;
+    SelectDeviceScreen(screen);
+    if (newDensity) {
+        RemakeSharedFonts(m_hwnd);
+        LoadMenuBarImages(GetModuleHandleW(nullptr));
+        SendMessageW(m_menuBar, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(m_images));
+        SendMessageW(m_menuBar, TB_AUTOSIZE, 0, 0);
+    }
+    FitWindowsToDeviceScreen();
+    RememberDesktopScreen(screen);
+    CheckShownScreen(m_menuBar);
+    InvalidateRect(m_hwnd, nullptr, TRUE);
 }
 
 bool SettingsApp::Apply() {
@@ -137,6 +165,10 @@ bool SettingsApp::OnCommand(WPARAM wParam, LPARAM lParam) {
         ShowAboutBox(m_hwnd);
         return true;
     default:
+        if (const DeviceScreen* screen = ScreenOfCommand(LOWORD(wParam))) {
+            ShowScreen(*screen);
+            return true;
+        }
         return m_host.DispatchCommand(wParam, lParam);
     }
 }

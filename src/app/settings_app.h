@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/device_screens.h"
 #include "store/ini_document.h"
 #include "ui/page_host.h"
 
@@ -48,6 +49,8 @@ class SettingsApp {
     LRESULT OnCtlColorButton(WPARAM wParam, LPARAM lParam);
     void CreateMainWindow(HINSTANCE instance);
     void CreateMenuBar(HINSTANCE instance);
+    void LoadMenuBarImages(HINSTANCE instance);
+    void ShowScreen(const DeviceScreen& screen);
 
     HWND m_hwnd = nullptr;
     HWND m_menuBar = nullptr;

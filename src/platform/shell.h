@@ -48,6 +48,8 @@ struct SHMENUBARINFO {
 BOOL SHCreateMenuBar(SHMENUBARINFO* info);
 // The bar window of `owner` made by SHCreateMenuBar, or null.
 HWND SHFindMenuBar(HWND owner);
+// The menu whose popups the bar's buttons open (the bar keeps it), or null for an empty bar.
+HMENU MenuOfMenuBar(HWND menuBar);
 
 // Done button of a top-level window.
 constexpr DWORD SHDB_SHOW = 0x0001;
@@ -81,5 +83,9 @@ DWORD SHRecognizeGesture(SHRGINFO* info);
 
 // Height of the menu bar in pixels on this screen.
 int MenuBarHeight();
+
+// After the screen changed size: every menu bar goes back along the bottom of the work area and
+// the window it belongs to fills the work area above it.
+void FitMenuBarsToWorkArea();
 
 } // namespace cv2

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "platform/device_screen.h"
 #include "platform/done_button.h"
 #include "store/scale.h"
 
@@ -20,9 +21,7 @@ const wchar_t kOwnerProp[] = L"CV2MenuBarOwner";
 const UINT kFirstMenuButton = 0xE000; // ids of the buttons that open the menu's popups
 
 RECT WorkArea() {
-    RECT wa;
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &wa, 0);
-    return wa;
+    return ScreenWorkArea();
 }
 
 // Opens the popup of menu button `index` above the bar and sends the chosen command.
@@ -210,11 +209,36 @@ BOOL SHCreateMenuBar(SHMENUBARINFO* info) {
     return TRUE;
 }
 
+void FitMenuBarsToWorkArea() {
+    const RECT wa = WorkArea();
+    const RECT bar = {wa.left, wa.bottom - MenuBarHeight(), wa.right, wa.bottom};
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND owner, LPARAM barRect) -> BOOL {
+            HWND container = static_cast<HWND>(GetPropW(owner, kOwnerProp));
+            if (!IsWindow(container))
+                return TRUE;
+            const RECT& r = *reinterpret_cast<const RECT*>(barRect);
+            const RECT wa = WorkArea();
+            SetWindowPos(container, nullptr, r.left, r.top, r.right - r.left, r.bottom - r.top,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+            SetWindowPos(owner, nullptr, wa.left, wa.top, wa.right - wa.left, r.top - wa.top,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&bar));
+}
+
 HWND SHFindMenuBar(HWND owner) {
     if (!owner)
         return nullptr;
     HWND container = static_cast<HWND>(GetPropW(owner, kOwnerProp));
     return IsWindow(container) ? GetWindow(container, GW_CHILD) : nullptr;
+}
+
+HMENU MenuOfMenuBar(HWND menuBar) {
+    HWND container = menuBar ? GetParent(menuBar) : nullptr;
+    return container ? static_cast<HMENU>(GetPropW(container, L"CV2Menu")) : nullptr;
 }
 
 DWORD SHRecognizeGesture(SHRGINFO* info) {

@@ -20,5 +20,7 @@ list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/write_fault.cpp)
 list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/read_observer.cpp)
 # The device's theme colours as a table with their fall-backs: portable, so the core can test it.
 list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/theme_color_table.cpp)
+# The device screens and the choice of one on a desktop: portable, tested natively.
+list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/device_screens.cpp)
 # Replacing writes and temporary folders, on both forms' primitives.
 list(APPEND CV2_CORE_SOURCES ${CMAKE_CURRENT_LIST_DIR}/replacing_file.cpp)

@@ -1,32 +1,25 @@
 #include "store/screen.h"
 
-#include <windows.h>
-
+#include "platform/device_screen.h"
 #include "store/scale.h"
 
 namespace cv2 {
-namespace {
-
-int ScreenCaps(int index) {
-    HDC dc = GetDC(nullptr);
-    int value = GetDeviceCaps(dc, index);
-    ReleaseDC(nullptr, dc);
-    return value;
-}
-
-} // namespace
 
 void ReadScreenDensities() {
     if (g_dpiX != 0 && g_dpiY != 0)
         return;
-    HDC dc = GetDC(nullptr);
-    g_dpiX = GetDeviceCaps(dc, LOGPIXELSX);
-    g_dpiY = GetDeviceCaps(dc, LOGPIXELSY);
-    ReleaseDC(nullptr, dc);
+    g_dpiX = ScreenDpiX();
+    g_dpiY = ScreenDpiY();
 }
 
-int ScreenWidth() { return ScreenCaps(HORZRES); }
-int ScreenHeight() { return ScreenCaps(VERTRES); }
-bool IsHighResolution() { return ScreenCaps(LOGPIXELSY) == 192; }
+int ScreenWidth() {
+    return ScreenPixelWidth();
+}
+int ScreenHeight() {
+    return ScreenPixelHeight();
+}
+bool IsHighResolution() {
+    return ScreenDpiY() == 192;
+}
 
 } // namespace cv2

@@ -122,11 +122,11 @@ void PageHost::SelectPage(int index) {
 bool PageHost::TrackPageMenu(int x, int y) {
     if (x < ScreenWidth() / 2 || y >= HeaderHeight())
         return false;
-    // The menu drops from just under the strip at the screen's right edge. (On the device the
-    // window starts below the 26-pixel navigation bar, which puts this at 47 there.)
+    // The menu drops from just under the strip at the window's right edge, the screen's on the
+    // device. (There the window starts below the 26-pixel navigation bar, which puts this at 47.)
     RECT window;
     GetWindowRect(m_hwnd, &window);
-    const UINT cmd = TrackPopupMenu(m_pageMenu, TPM_RIGHTALIGN | TPM_RETURNCMD, ScreenWidth(),
+    const UINT cmd = TrackPopupMenu(m_pageMenu, TPM_RIGHTALIGN | TPM_RETURNCMD, window.right,
                                     window.top + Scale(21), 0, m_hwnd, nullptr);
     if (cmd)
         SelectPage(static_cast<int>(cmd) - 1);

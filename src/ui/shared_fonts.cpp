@@ -27,7 +27,37 @@ void Release(HFONT& font) {
     font = nullptr;
 }
 
+// The old fonts and their replacements, in the same order.
+struct FontSwap {
+    HFONT from[3];
+    HFONT to[3];
+};
+
+BOOL CALLBACK SwapControlFont(HWND control, LPARAM param) {
+    const FontSwap& swap = *reinterpret_cast<const FontSwap*>(param);
+    const HFONT font = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
+    for (int i = 0; i < 3; ++i) {
+        if (font && font == swap.from[i])
+            SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(swap.to[i]), TRUE);
+    }
+    return TRUE;
+}
+
 } // namespace
+
+void RemakeSharedFonts(HWND window) {
+    FontSwap swap = {{g_text, g_caption, g_underline}, {}};
+    g_text = g_caption = g_underline = nullptr;
+    CreateSharedFonts();
+    swap.to[0] = g_text;
+    swap.to[1] = g_caption;
+    swap.to[2] = g_underline;
+    EnumChildWindows(window, SwapControlFont, reinterpret_cast<LPARAM>(&swap));
+    for (HFONT old : swap.from) {
+        if (old)
+            DeleteObject(old);
+    }
+}
 
 void CreateSharedFonts() {
     DestroySharedFonts();
@@ -42,9 +72,15 @@ void DestroySharedFonts() {
     Release(g_underline);
 }
 
-HFONT TextFont() { return g_text; }
-HFONT CaptionFont() { return g_caption; }
-HFONT UnderlineFont() { return g_underline; }
+HFONT TextFont() {
+    return g_text;
+}
+HFONT CaptionFont() {
+    return g_caption;
+}
+HFONT UnderlineFont() {
+    return g_underline;
+}
 
 void SetControlFont(HWND control, HFONT font) {
     SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);

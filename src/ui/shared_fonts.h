@@ -8,6 +8,9 @@ namespace cv2 {
 
 void CreateSharedFonts();
 void DestroySharedFonts();
+// Makes the fonts again for the screen's present density and gives the new ones to every control
+// in `window` that had an old one (the density changes when a desktop shows another screen).
+void RemakeSharedFonts(HWND window);
 
 // Plain text: edit boxes, lists, combo boxes, unit labels.
 HFONT TextFont();

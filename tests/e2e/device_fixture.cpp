@@ -162,8 +162,8 @@ DWORD DeviceFixture::RunEditor(const std::wstring& arguments, std::string& error
     return code;
 }
 
-HWND DeviceFixture::StartEditor() {
-    if (!Launch(File(L"CV2Settings.exe"), L"", m_editor)) {
+HWND DeviceFixture::StartEditor(const std::wstring& arguments) {
+    if (!Launch(File(L"CV2Settings.exe"), arguments, m_editor)) {
         ADD_FAILURE() << "could not start the editor";
         return nullptr;
     }

@@ -32,8 +32,9 @@ class DeviceFixture : public ::testing::Test {
     // The same, with what the program writes to standard error in `errors`.
     DWORD RunEditor(const std::wstring& arguments, std::string& errors, DWORD timeoutMs = 30000);
 
-    // Starts the interactive editor and waits for its main window ("CorvaneSettings").
-    HWND StartEditor();
+    // Starts the interactive editor with these arguments and waits for its main window
+    // ("CorvaneSettings").
+    HWND StartEditor(const std::wstring& arguments = L"");
     // Waits for the editor started by StartEditor to end; false on time-out (it is then killed).
     bool WaitEditorExit(DWORD timeoutMs = 20000);
     bool EditorRunning() const;

@@ -11,6 +11,7 @@
 
 #include "check_pages_host.h"
 #include "dialog_driver.h"
+#include "layout_check.h"
 #include "store/ini_document.h"
 #include "ui/settings_page.h"
 
@@ -26,8 +27,5 @@ void SetItemText(HWND dialog, int id, const std::wstring& text);
 void ClickItem(HWND dialog, int id);
 // Posts the button's command, for buttons that open or close a dialog.
 void PressItem(HWND dialog, int id);
-
-// Expects the visible children of `parent` inside its client area and clear of each other.
-void ExpectLaidOutApart(HWND parent);
 
 } // namespace cv2test

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/device_screen.h"
 #include "store/scale.h"
 #include "store/screen.h"
 
@@ -60,7 +61,7 @@ void FontRecord::CopyValues(const FontRecord& other) {
 bool FontRecord::Create(const wchar_t* newFace, int newSize, uint32_t newStyle, bool newClearType,
                         HDC dc) {
     HDC measureDc = dc ? dc : GetDC(nullptr);
-    const int dpiY = GetDeviceCaps(measureDc, LOGPIXELSY);
+    const int dpiY = FontDpiY(measureDc);
     if (!dc)
         ReleaseDC(nullptr, measureDc);
     return CreateAt(newFace, newSize, newStyle, newClearType, dpiY);

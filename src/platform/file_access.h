@@ -14,7 +14,7 @@ using Bytes = std::vector<unsigned char>;
 bool ReadWholeFile(const std::wstring& path, Bytes& out);
 
 // For tests: the observer hears the path of every file ReadWholeFile is asked to read, before it
-// is opened; null ends it.
+// is opened, from whichever thread reads it, one call at a time; null ends it.
 using FileReadObserver = void (*)(const std::wstring& path);
 void ObserveFileReads(FileReadObserver observer);
 

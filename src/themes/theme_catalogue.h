@@ -43,7 +43,9 @@ void ScanThemeFolder(const std::wstring& folder, std::vector<ThemeEntry>& found)
 // The themes listed change with these folders only (or with the files in them).
 std::vector<std::wstring> ThemeFolders(const std::wstring& exeFolder, const IniDocument& config);
 
-// Every theme in the sub-folders of `folders`, in their order.
+// Every theme in the sub-folders of `folders`, in their order. The sub-folders are shared out
+// among a few threads: most of a folder's time is spent waiting on the file system, and those
+// waits overlap. The entries come out in the same order as from one thread.
 std::vector<ThemeEntry> ScanThemes(const std::vector<std::wstring>& folders);
 // Every theme of the device: ScanThemes of its ThemeFolders.
 std::vector<ThemeEntry> ScanThemes(const std::wstring& exeFolder, const IniDocument& config);

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/file_access.h"
+#include "store/paths.h"
 #include "temp_folder.h"
 #include "theme_test_text.h"
 
@@ -16,6 +17,12 @@ using namespace cv2test;
 namespace {
 
 const wchar_t kPrefix[] = L"[1.x Theme] ";
+
+Lines g_reads; // what the observer heard
+
+void NoteRead(const std::wstring& path) {
+    g_reads.push_back(path);
+}
 
 // A device folder: the program's folder with its "Themes\" below it.
 class ThemeCatalogue : public ::testing::Test {
@@ -119,6 +126,51 @@ TEST_F(ThemeCatalogue, ThemeDirectoriesAreScannedAfterTheThemesFolderInListedOrd
     for (const ThemeEntry& e : Scan(config))
         found.push_back(e.name);
     EXPECT_EQ(found, (Lines{L"Main", L"More", L"Card"}));
+}
+
+// The folders are read by several threads at once; what they find comes out as one thread
+// reading the folders in turn would give it.
+TEST_F(ThemeCatalogue, ManyFoldersComeOutInTheOrderOfReadingThemOneAfterAnother) {
+    for (int i = 0; i < 60; ++i) {
+        const std::wstring n = std::to_wstring(i);
+        Theme(L"Themes\\F" + n + L"\\a" + n + L".skin", "[Skin Info]\nName=A" + std::to_string(i));
+        if (i % 3 == 0)
+            Theme(L"Themes\\F" + n + L"\\b" + n + L".skin", "[Skin Info]\nName=B");
+        if (i % 7 == 0)
+            m_dir.MakeFolder(L"Themes\\Empty" + n);
+        if (i % 5 == 0)
+            Theme(L"More\\M" + n + L"\\m.skin", "Logo=older.bmp\n");
+    }
+    const std::vector<std::wstring> folders = {m_dir.File(L"Themes\\"), m_dir.File(L"More")};
+    std::vector<ThemeEntry> inTurn;
+    for (const std::wstring& folder : folders) {
+        for (const std::wstring& sub : ListSubfolders(folder))
+            ScanThemeFolder(FolderWithSlash(folder) + sub, inTurn);
+    }
+    Lines expected, found;
+    for (const ThemeEntry& e : inTurn)
+        expected.push_back(e.path + L"|" + e.name);
+    for (const ThemeEntry& e : ScanThemes(folders))
+        found.push_back(e.path + L"|" + e.name);
+    EXPECT_EQ(inTurn.size(), 60u + 20u + 12u);
+    EXPECT_EQ(found, expected);
+}
+
+TEST_F(ThemeCatalogue, EverySkinIsReadOnceWhileThreadsShareTheFolders) {
+    Lines written;
+    for (int i = 0; i < 40; ++i) {
+        const std::wstring file = L"Themes\\F" + std::to_wstring(i) + L"\\t.skin";
+        Theme(file, "[Skin Info]\nName=T\n");
+        written.push_back(m_dir.File(file));
+    }
+    g_reads.clear();
+    ObserveFileReads(NoteRead);
+    const size_t found = Scan().size();
+    ObserveFileReads(nullptr);
+    std::sort(g_reads.begin(), g_reads.end());
+    std::sort(written.begin(), written.end());
+    EXPECT_EQ(found, 40u);
+    EXPECT_EQ(g_reads, written);
 }
 
 TEST_F(ThemeCatalogue, MissingThemeDirectoriesAndVanishedFoldersAreNoError) {

@@ -228,7 +228,8 @@ void ThemeCataloguePage::Fill() {
 
 // The first row whose file is the one config.ini names; the custom theme's file is config.ini.
 // The selection-change notice goes through the host, as a tap's would, so the buttons and the
-// details follow.
+// details follow. The list is drawn first: the user reads it while the details and the top bar's
+// picture are made.
 void ThemeCataloguePage::SelectThemeFile() {
     const std::wstring themeFile =
         Doc()->GetString(config::kSettings, config::kThemeFile,
@@ -245,6 +246,7 @@ void ThemeCataloguePage::SelectThemeFile() {
             break;
         }
     }
+    UpdateWindow(list);
     PostMessageW(m_host, WM_COMMAND, MAKEWPARAM(IDC_THEMES_LIST, LBN_SELCHANGE),
                  reinterpret_cast<LPARAM>(list));
 }

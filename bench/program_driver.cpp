@@ -296,17 +296,21 @@ Arguments ReadArguments(int argc, char** argv) {
     return arguments;
 }
 
+bool StartMinimal(Samples& painted, Samples* memory) {
+    Started minimal(ThisFolder() + L"minimal_window.exe");
+    if (!minimal.Ok() || !WaitPainted(L"CV2MinimalWindow", minimal.Id()))
+        return false;
+    painted.values.push_back(Now() - minimal.StartTime());
+    if (memory)
+        memory->values.push_back(minimal.PeakPrivateMb());
+    return true;
+}
+
 Samples MinimalFirstPaint(int starts, Samples* memory) {
-    Samples painted;
-    for (int i = 0; i <= starts; ++i) {
-        Started minimal(ThisFolder() + L"minimal_window.exe");
-        const bool shown = minimal.Ok() && WaitPainted(L"CV2MinimalWindow", minimal.Id());
-        if (!shown || i == 0)
-            continue;
-        painted.values.push_back(Now() - minimal.StartTime());
-        if (memory)
-            memory->values.push_back(minimal.PeakPrivateMb());
-    }
+    Samples warming, painted;
+    StartMinimal(warming);
+    for (int i = 0; i < starts; ++i)
+        StartMinimal(painted, memory);
     return painted;
 }
 

@@ -102,8 +102,11 @@ struct Arguments {
 };
 Arguments ReadArguments(int argc, char** argv);
 
-// The first paint of the minimal program (beside this benchmark) over `starts` starts, after
-// one that warms Wine and the file cache; with its peak private memory when asked.
+// Starts the minimal program (beside this benchmark) once and adds the seconds to its first
+// paint to `painted`, with its peak private memory when asked; false if it did not paint.
+bool StartMinimal(Samples& painted, Samples* memory = nullptr);
+// The first paint of the minimal program over `starts` starts, after one that warms Wine and the
+// file cache; with its peak private memory when asked.
 Samples MinimalFirstPaint(int starts, Samples* memory = nullptr);
 
 } // namespace cv2bench

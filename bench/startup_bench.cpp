@@ -1,13 +1,14 @@
 // Where users of the real program wait, against a minimal Win32 program started in the same run
 // (once after each start of the real program, so that a machine that slows down or speeds up
-// during the run moves both alike), with 0, 200 and 2,000 themes in the device folder (besides the sample theme, which is also the
-// custom theme): the time from starting the process to its first painted page; to every theme
-// listed on it; the cost of just listing the theme folders and opening their files (what any
-// listing pays, timed here); Customize, from the press to the theme editor's painted first page;
-// one Apply; the slowest first switch to a page of the main window or the editor (see
-// page_switch_bench for every page); and the peak private memory, read from outside. Times are
-// medians of several starts, printed as ratios to the minimal program's first paint, then in
-// milliseconds with the spread of the starts. It never passes or fails: it reports.
+// during the run moves both alike), with 0, 200 and 2,000 themes in the device folder (besides
+// the sample theme, which is also the custom theme): the time from starting the process to its
+// first painted page; to every theme listed on it; the cost of just listing the theme folders
+// and opening their files on one thread (what any listing pays, timed here); Customize, from the
+// press to the theme editor's painted first page; one Apply; the slowest first switch to a page
+// of the main window or the editor (see page_switch_bench for every page); and the peak private
+// memory, read from outside. Times are medians of several starts, printed as ratios to the
+// minimal program's first paint, then in milliseconds with the spread of the starts. It never
+// passes or fails: it reports.
 //
 //   tools/wine-run.sh build/win/bench/startup_bench.exe [starts] [program]
 // (on a screen prepared with use_screen from tools/common.sh; the program is by default the

@@ -79,8 +79,8 @@ void ScanInTurn(const std::wstring& themes) {
 }
 
 void AddRows(const std::vector<cv2::ThemeEntry>& entries) {
-    HWND list = CreateWindowW(L"LISTBOX", L"", LBS_SORT | LBS_NOTIFY | WS_VSCROLL | WS_POPUP, 0,
-                              0, 240, 141, nullptr, nullptr, nullptr, nullptr);
+    HWND list = CreateWindowW(L"LISTBOX", L"", LBS_SORT | LBS_NOTIFY | WS_VSCROLL | WS_POPUP, 0, 0,
+                              240, 141, nullptr, nullptr, nullptr, nullptr);
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
     for (const cv2::ThemeEntry& e : entries) {
         const std::wstring text = cv2::ThemeDisplayText(e, L"[1.x Theme] ");

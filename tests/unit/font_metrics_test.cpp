@@ -40,6 +40,12 @@ TEST(FontHeight, HugeSizesStopAtTheLargestHeight) {
     EXPECT_EQ(FontHeightForSize(2147483647, 192), -kMaxFontHeight);
 }
 
+TEST(FontHeight, SizesFarBelowOneStopAtTheLargestHeightToo) {
+    EXPECT_EQ(FontHeightForSize(-kMaxFontHeight, 96), -kMaxFontHeight);
+    EXPECT_EQ(FontHeightForSize(-5000, 96), -kMaxFontHeight);
+    EXPECT_EQ(FontHeightForSize(-2147483647 - 1, 192), -kMaxFontHeight);
+}
+
 TEST(TextExtentRoom, PlainTextGetsFourScaledPixelsOfWidth) {
     const TextExtent e = MeasuredExtent({50, 13}, 0, 96);
     EXPECT_EQ(e.width, 54);

@@ -7,7 +7,7 @@ namespace cv2 {
 
 int FontHeightForSize(int points, int dpiY) {
     if (points < 1)
-        return points;
+        return points > -kMaxFontHeight ? points : -kMaxFontHeight;
     const long long pixels = (static_cast<long long>(points) + 3) * dpiY / 96;
     return -static_cast<int>(pixels < kMaxFontHeight ? pixels : kMaxFontHeight);
 }
